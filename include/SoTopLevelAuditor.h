@@ -1,0 +1,10 @@
+#pragma once
+
+#include "SoDialogAuditor.h"
+
+// A general auditor with no type of its own: the default auditor of a window, so that an
+// event that no application auditor hears still ends somewhere.
+class SoTopLevelAuditor : public SoDialogAuditor {
+public:
+  SoTopLevelAuditor() = default;
+};

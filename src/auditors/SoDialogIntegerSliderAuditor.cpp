@@ -1,0 +1,5 @@
+#include <SoDialogIntegerSliderAuditor.h>
+
+#include "SoAuditorSource.h"
+
+SO_FORMWRIGHT_AUDITOR_SOURCE(SoDialogIntegerSliderAuditor, SoAuditor::getClassTypeId(), "SoDialogIntegerSliderAuditor")

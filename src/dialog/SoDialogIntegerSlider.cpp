@@ -1,0 +1,13 @@
+#include <SoDialogIntegerSlider.h>
+
+#include "SoFormwrightSubNodeSource.h"
+
+SO_FORMWRIGHT_SOURCE(SoDialogIntegerSlider, SoDialogSlider, "DialogIntegerSlider")
+
+SoDialogIntegerSlider::SoDialogIntegerSlider()
+{
+  SO_FORMWRIGHT_CONSTRUCTOR(SoDialogIntegerSlider);
+  SO_FORMWRIGHT_INIT_INSTANCE();
+}
+
+SoDialogIntegerSlider::~SoDialogIntegerSlider() = default;

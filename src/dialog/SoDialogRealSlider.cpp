@@ -1,0 +1,13 @@
+#include <SoDialogRealSlider.h>
+
+#include "SoFormwrightSubNodeSource.h"
+
+SO_FORMWRIGHT_SOURCE(SoDialogRealSlider, SoDialogSlider, "DialogRealSlider")
+
+SoDialogRealSlider::SoDialogRealSlider()
+{
+  SO_FORMWRIGHT_CONSTRUCTOR(SoDialogRealSlider);
+  SO_FORMWRIGHT_INIT_INSTANCE();
+}
+
+SoDialogRealSlider::~SoDialogRealSlider() = default;

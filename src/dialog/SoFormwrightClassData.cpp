@@ -1,0 +1,157 @@
+#include <SoFormwrightClassData.h>
+
+#include "SoTypedObject.h"
+
+#include <Inventor/errors/SoDebugError.h>
+#include <Inventor/fields/SoFieldData.h>
+#include <Inventor/fields/SoSFEnum.h>
+#include <Inventor/nodekits/SoNodekitCatalog.h>
+#include <Inventor/nodes/SoNode.h>
+
+#include <string>
+
+namespace {
+// The toolkit keeps the counter of action-method slots to node classes.
+struct ActionMethodIndex : SoNode {
+  static int next() { return getNextActionMethodIndex(); }
+  static void increment() { incNextActionMethodIndex(); }
+};
+
+const char* const kNotConstructed =
+  "Instance not properly constructed.\nDid you forget to put SO_NODE_CONSTRUCTOR() in the constructor?";
+}
+
+void SoFormwrightClassData::initClass(const char* typeName, const SoFormwrightParentClass& parent,
+                                      SoType::instantiationMethod createInstance)
+{
+  {
+    SbThreadAutoLock lock(&classMutex);
+    classRenderEngineMode.setRenderMode(SbRenderEngineMode::OPENGL_COMPATIBILITY);
+    if (parent.renderEngineMode && parent.renderEngineMode->isChildrenInherit())
+      classRenderEngineMode.setChildrenInherit(parent.renderEngineMode->isChildrenInherit());
+    if (parent.getClassTypeId().isBad()) {
+      const std::string source = std::string(m_className) + "::initClass";
+      SoDebugError::post(source.c_str(), "%s initialized before parent class %s\n", m_className,
+                         parent.name);
+      parent.initClass();
+    }
+    const auto actionMethodIndex = static_cast<uint16_t>(ActionMethodIndex::next());
+    classTypeId =
+      SoType::createType(parent.getClassTypeId(), SbName(typeName), createInstance, actionMethodIndex);
+    if (!parentFieldData)
+      ActionMethodIndex::increment();
+    parentFieldData = parent.fieldDataPtr;
+  }
+  parentNodekitCatalogPtr = parent.nodekitCatalogPtr;
+}
+
+void SoFormwrightClassData::exitClass()
+{
+  // The bad type has a name of its own, which must never be removed.
+  if (!classTypeId.isBad() && SoType::removeType(classTypeId.getName())) {
+    classTypeId = SoType::badType();
+    delete fieldData;
+    fieldData = nullptr;
+    parentFieldData = nullptr;
+    firstInstance = 1;
+  } else {
+    const std::string source = std::string(m_className) + "::exitClass";
+    SoDebugError::post(source.c_str(),
+                       "Unable to remove type (%s) for this class. Check exitClass() method is "
+                       "implemented and is called only once.\n",
+                       classTypeId.getName().getString());
+  }
+  delete nodekitCatalog;
+  nodekitCatalog = nullptr;
+}
+
+const SoFieldData** SoFormwrightClassData::getFieldDataPtr()
+{
+  SbThreadAutoLock lock(&classMutex);
+  return const_cast<const SoFieldData**>(&fieldData);
+}
+
+const SoFieldData* SoFormwrightClassData::getFieldData()
+{
+  SbThreadAutoLock lock(&classMutex);
+  if (!fieldData) {
+    SoDebugError::post(m_className, "%s", kNotConstructed);
+    fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+  }
+  return fieldData;
+}
+
+void SoFormwrightClassData::beginInstance(const void* instance, void (*initClassOfInstance)())
+{
+  {
+    SbThreadAutoLock lock(&classMutex);
+    if (classTypeId.isBad()) {
+      SoDebugError::post("SO_NODE_CONSTRUCTOR",
+                         "Can't construct a node of type %s until initClass() has been called",
+                         m_className);
+      initClassOfInstance();
+    }
+    SoTypedObject::checkDatabase(m_className, instance, classTypeId, classTypeId);
+    if (!fieldData)
+      fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+    else
+      firstInstance = 0;
+  }
+  // The catalog is rebuilt with the field table, so that a class registered
+  // again after a finish starts from its parent's current catalog.
+  if (firstInstance || !nodekitCatalog) {
+    delete nodekitCatalog;
+    nodekitCatalog = parentNodekitCatalogPtr && *parentNodekitCatalogPtr
+                       ? (*parentNodekitCatalogPtr)->clone(classTypeId)
+                       : new SoNodekitCatalog;
+  }
+  isBuiltIn = 1;
+}
+
+void SoFormwrightClassData::ensureFieldData()
+{
+  if (!fieldData) {
+    const std::string source = std::string("dialog/") + m_className;
+    SoDebugError::post(source.c_str(), "%s", kNotConstructed);
+    fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+  }
+}
+
+void SoFormwrightClassData::enterField(SoFieldContainer* instance, const char* name, SoField& field)
+{
+  fieldData->addField(instance, name, &field);
+}
+
+void SoFormwrightClassData::addEnumValue(const char* enumName, const char* valueName, int value)
+{
+  SbThreadAutoLock lock(&classMutex);
+  ensureFieldData();
+  if (firstInstance)
+    fieldData->addEnumValue(enumName, valueName, value);
+}
+
+void SoFormwrightClassData::setEnumType(SoSFEnum& field, const char* fieldName, const char* enumName,
+                                        int line)
+{
+  SbThreadAutoLock lock(&classMutex);
+  int count = 0;
+  const int* values = nullptr;
+  const SbName* names = nullptr;
+  fieldData->getEnumData(enumName, count, values, names);
+  if (count == 0 && firstInstance) {
+    const std::string source = std::string("dialog/") + m_className;
+    SoDebugError::post("SO_SET_SF_ENUM_TYPE",
+                       "Field %s (%s, line %d): Did you forget to use SO_%s_DEFINE_ENUM_VALUE(%s, ...)?",
+                       fieldName, source.c_str(), line, "NODE", enumName);
+  }
+  field.setEnums(count, values, names);
+}
+
+bool SoFormwrightClassData::addCatalogEntry(const char* name, SoType type, SoType defaultType,
+                                            const char* parentName, bool isPublic)
+{
+  if (!firstInstance)
+    return true;
+  return nodekitCatalog->addEntry(name, type, defaultType, TRUE, parentName, "", FALSE,
+                                  SoType::badType(), SoType::badType(), isPublic);
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <SoColumnDialog.h>
+#include <SoDialogCheckBox.h>
+#include <SoDialogCheckBoxLauncher.h>
+#include <SoDialogChoice.h>
+#include <SoDialogComboBox.h>
+#include <SoDialogComponent.h>
+#include <SoDialogCustom.h>
+#include <SoDialogEditText.h>
+#include <SoDialogGroup.h>
+#include <SoDialogIntegerSlider.h>
+#include <SoDialogLabel.h>
+#include <SoDialogPushButton.h>
+#include <SoDialogPushButtonLauncher.h>
+#include <SoDialogRadioButtons.h>
+#include <SoDialogRealSlider.h>
+#include <SoDialogSeparator.h>
+#include <SoDialogSlider.h>
+#include <SoFormwright.h>
+#include <SoMenuBar.h>
+#include <SoMenuCheckBox.h>
+#include <SoMenuCheckBoxLauncher.h>
+#include <SoMenuFileSelection.h>
+#include <SoMenuItem.h>
+#include <SoMenuPopup.h>
+#include <SoMenuPushButton.h>
+#include <SoMenuPushButtonLauncher.h>
+#include <SoMenuRadioButtons.h>
+#include <SoMenuSeparator.h>
+#include <SoMessageDialog.h>
+#include <SoRowDialog.h>
+#include <SoTabDialog.h>
+#include <SoTopComponent.h>
+#include <SoTopLevelDialog.h>
+
+// Every interface node class, in the order of registration: a class comes
+// after its parent. Ending the library walks the list backwards.
+#define SO_FORMWRIGHT_FOR_EACH_CLASS(X) \
+  X(SoFormwright) \
+  X(SoMenuItem) \
+  X(SoMenuCheckBox) \
+  X(SoMenuCheckBoxLauncher) \
+  X(SoMenuPopup) \
+  X(SoMenuPushButton) \
+  X(SoMenuFileSelection) \
+  X(SoMenuPushButtonLauncher) \
+  X(SoMenuRadioButtons) \
+  X(SoMenuSeparator) \
+  X(SoTopComponent) \
+  X(SoDialogComponent) \
+  X(SoDialogCheckBox) \
+  X(SoDialogCheckBoxLauncher) \
+  X(SoDialogChoice) \
+  X(SoDialogComboBox) \
+  X(SoDialogRadioButtons) \
+  X(SoDialogCustom) \
+  X(SoDialogEditText) \
+  X(SoDialogGroup) \
+  X(SoColumnDialog) \
+  X(SoRowDialog) \
+  X(SoTabDialog) \
+  X(SoDialogLabel) \
+  X(SoDialogPushButton) \
+  X(SoDialogPushButtonLauncher) \
+  X(SoDialogSeparator) \
+  X(SoDialogSlider) \
+  X(SoDialogIntegerSlider) \
+  X(SoDialogRealSlider) \
+  X(SoMenuBar) \
+  X(SoTopLevelDialog) \
+  X(SoMessageDialog)

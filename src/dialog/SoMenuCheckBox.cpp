@@ -1,0 +1,13 @@
+#include <SoMenuCheckBox.h>
+
+#include "SoFormwrightSubNodeSource.h"
+
+SO_FORMWRIGHT_SOURCE(SoMenuCheckBox, SoMenuItem, "MenuCheckBox")
+
+SoMenuCheckBox::SoMenuCheckBox()
+{
+  SO_FORMWRIGHT_CONSTRUCTOR(SoMenuCheckBox);
+  SO_FORMWRIGHT_INIT_INSTANCE();
+}
+
+SoMenuCheckBox::~SoMenuCheckBox() = default;

@@ -1,0 +1,13 @@
+#include <SoMenuPushButton.h>
+
+#include "SoFormwrightSubNodeSource.h"
+
+SO_FORMWRIGHT_SOURCE(SoMenuPushButton, SoMenuItem, "MenuPushButton")
+
+SoMenuPushButton::SoMenuPushButton()
+{
+  SO_FORMWRIGHT_CONSTRUCTOR(SoMenuPushButton);
+  SO_FORMWRIGHT_INIT_INSTANCE();
+}
+
+SoMenuPushButton::~SoMenuPushButton() = default;

@@ -1,0 +1,13 @@
+#include <SoMenuRadioButtons.h>
+
+#include "SoFormwrightSubNodeSource.h"
+
+SO_FORMWRIGHT_SOURCE(SoMenuRadioButtons, SoMenuItem, "MenuRadioButtons")
+
+SoMenuRadioButtons::SoMenuRadioButtons()
+{
+  SO_FORMWRIGHT_CONSTRUCTOR(SoMenuRadioButtons);
+  SO_FORMWRIGHT_INIT_INSTANCE();
+}
+
+SoMenuRadioButtons::~SoMenuRadioButtons() = default;

@@ -1,0 +1,202 @@
+#include "TestSupport.h"
+
+#include <SoDialogLabel.h>
+#include <SoDialogPushButton.h>
+#include <SoDialogPushButtonLauncher.h>
+#include <SoFormwright.h>
+
+#include "ScInitModuleCmd.h"
+#include "SoToolkitStarts.h"
+
+#include <Inventor/fields/SoFieldData.h>
+#include <Inventor/nodekits/SoNodekitCatalog.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+struct ModuleRecorder : ScInitModuleCmd {
+  std::vector<std::string> modules;
+  void serialize(const char* moduleName) override { modules.push_back(moduleName); }
+};
+
+const char* const kLabelFile = "#Inventor V2.1 ascii\nDialogLabel { label \"x\" }\n";
+
+TEST(Lifecycle, productAndVersion)
+{
+  EXPECT_STREQ(SoFormwright::getProductName(), "Formwright");
+  EXPECT_STREQ(SoFormwright::getVersion(), "10.17.1.0");
+}
+
+TEST(Lifecycle, secondInitIsCountedAndUndoneByOneFinish)
+{
+  const int toolkitStarts = SoToolkitStarts::getStartCount();
+  const SoType labelType = SoDialogLabel::getClassTypeId();
+  SoFormwright::init();
+  EXPECT_EQ(SoToolkitStarts::getStartCount(), toolkitStarts + 1);
+  EXPECT_EQ(SoDialogLabel::getClassTypeId(), labelType) << "a second init must not register again";
+  SoFormwright::finish();
+  EXPECT_TRUE(SoFormwright::isInitialized());
+  EXPECT_EQ(SoToolkitStarts::getStartCount(), toolkitStarts);
+  EXPECT_EQ(SoDialogLabel::getClassTypeId(), labelType);
+}
+
+TEST(Lifecycle, surplusFinishTouchesNothing)
+{
+  SoFormwright::finish();
+  ASSERT_FALSE(SoFormwright::isInitialized());
+  const int toolkitStarts = SoToolkitStarts::getStartCount();
+  {
+    DebugMessages messages;
+    SoFormwright::finish();
+    EXPECT_EQ(messages.count(), 0u);
+  }
+  EXPECT_FALSE(SoFormwright::isInitialized());
+  EXPECT_EQ(SoToolkitStarts::getStartCount(), toolkitStarts);
+  SoFormwright::init();
+}
+
+TEST(Lifecycle, restartRegistersEveryClassAfreshAndTellsTheClusterOnce)
+{
+  SoDialogLabel* before = new SoDialogLabel;
+  const int fieldCount = before->getFieldData()->getNumFields();
+
+  ModuleRecorder recorder;
+  ScInitModuleCmd::setInstance(&recorder);
+  SoFormwright::finish();
+  EXPECT_TRUE(SoDialogLabel::getClassTypeId().isBad());
+  EXPECT_EQ(*SoDialogLabel::getFieldDataPtr(), nullptr);
+  EXPECT_EQ(SoDialogLabel::getClassNodekitCatalog(), nullptr);
+
+  SoFormwright::init();
+  SoFormwright::init();
+  SoFormwright::finish();
+  ScInitModuleCmd::setInstance(nullptr);
+  EXPECT_EQ(recorder.modules, std::vector<std::string>{"Formwright"});
+
+  ASSERT_FALSE(SoDialogLabel::getClassTypeId().isBad());
+  SoDialogLabel* after = new SoDialogLabel;
+  after->ref();
+  const SoFieldData* fields = after->getFieldData();
+  ASSERT_NE(fields, nullptr);
+  EXPECT_EQ(fields->getNumFields(), fieldCount);
+  for (const char* name : {"enable", "label", "auditorID", "labelAlignment", "geomSwitch"})
+    EXPECT_NE(after->getField(name), nullptr) << name;
+  ASSERT_NE(SoDialogLabel::getClassNodekitCatalog(), nullptr);
+  EXPECT_GE(SoDialogLabel::getClassNodekitCatalog()->getPartNumber("geomSwitch"), 0);
+  after->unref();
+}
+
+TEST(Lifecycle, dialogKeywordsExistOnlyWhileStarted)
+{
+  SoFormwright::finish();
+  SoDB::init(); // the application's own start of the toolkit
+  {
+    DebugMessages messages;
+    SoSeparator* refused = readScene(kLabelFile);
+    EXPECT_EQ(refused, nullptr);
+  }
+  SoFormwright::init();
+  SoSeparator* read = readScene(kLabelFile);
+  ASSERT_NE(read, nullptr);
+  EXPECT_EQ(read->getChild(0)->getTypeId(), SoDialogLabel::getClassTypeId());
+  read->unref();
+  SoFormwright::finish();
+  EXPECT_TRUE(SoDB::isInitialized()) << "the toolkit that the application started stays up";
+  SoDB::finish();
+  SoFormwright::init();
+}
+
+TEST(Lifecycle, misuseOfRegistrationIsReportedAndHealed)
+{
+  DebugMessages messages;
+
+  SoDialogLabel::exitClass();
+  SoDialogLabel::exitClass();
+  EXPECT_TRUE(messages.contains("Unable to remove type (BadType) for this class. Check exitClass() method is "
+                                "implemented and is called only once."));
+  EXPECT_TRUE(messages.contains("SoDialogLabel::exitClass"));
+
+  SoDialogLabel* early = new SoDialogLabel;
+  early->ref();
+  EXPECT_TRUE(messages.contains("Can't construct a node of type SoDialogLabel until initClass() has been called"));
+  EXPECT_TRUE(messages.contains("SO_NODE_CONSTRUCTOR"));
+  EXPECT_EQ(early->getTypeId(), SoType::fromName("DialogLabel"));
+  EXPECT_NE(early->getField("labelAlignment"), nullptr);
+  early->unref();
+
+  SoDialogPushButtonLauncher::exitClass();
+  SoDialogPushButton::exitClass();
+  SoDialogPushButtonLauncher::initClass();
+  EXPECT_TRUE(messages.contains("SoDialogPushButtonLauncher initialized before parent class SoDialogPushButton"));
+  EXPECT_FALSE(SoDialogPushButton::getClassTypeId().isBad());
+  EXPECT_EQ(SoDialogPushButtonLauncher::getClassTypeId().getParent(), SoDialogPushButton::getClassTypeId());
+}
+
+TEST(Lifecycle, everyClassRegistersInOrderUnderItsParent)
+{
+  struct Expected {
+    const char* name;
+    const char* parent;
+  };
+  const Expected table[] = {
+    {"Formwright", "Dragger"},
+    {"MenuItem", "Formwright"},
+    {"MenuCheckBox", "MenuItem"},
+    {"MenuCheckBoxLauncher", "MenuCheckBox"},
+    {"MenuPopup", "MenuItem"},
+    {"MenuPushButton", "MenuItem"},
+    {"MenuFileSelection", "MenuPushButton"},
+    {"MenuPushButtonLauncher", "MenuPushButton"},
+    {"MenuRadioButtons", "MenuItem"},
+    {"MenuSeparator", "MenuItem"},
+    {"TopComponent", "Formwright"},
+    {"DialogComponent", "TopComponent"},
+    {"DialogCheckBox", "DialogComponent"},
+    {"DialogCheckBoxLauncher", "DialogCheckBox"},
+    {"DialogChoice", "DialogComponent"},
+    {"DialogComboBox", "DialogChoice"},
+    {"DialogRadioButtons", "DialogChoice"},
+    {"DialogCustom", "DialogComponent"},
+    {"DialogEditText", "DialogComponent"},
+    {"DialogGroup", "DialogComponent"},
+    {"ColumnDialog", "DialogGroup"},
+    {"RowDialog", "DialogGroup"},
+    {"TabDialog", "DialogGroup"},
+    {"DialogLabel", "DialogComponent"},
+    {"DialogPushButton", "DialogComponent"},
+    {"DialogPushButtonLauncher", "DialogPushButton"},
+    {"DialogSeparator", "DialogComponent"},
+    {"DialogSlider", "DialogComponent"},
+    {"DialogIntegerSlider", "DialogSlider"},
+    {"DialogRealSlider", "DialogSlider"},
+    {"MenuBar", "TopComponent"},
+    {"TopLevelDialog", "Formwright"},
+    {"MessageDialog", "Formwright"},
+  };
+  // Start afresh, so that the order of the keys is the order of registration.
+  SoFormwright::finish();
+  SoFormwright::init();
+  int previousKey = -1;
+  for (const Expected& expected : table) {
+    const SoType type = SoType::fromName(expected.name);
+    ASSERT_FALSE(type.isBad()) << expected.name;
+    EXPECT_STREQ(type.getName().getString(), expected.name);
+    EXPECT_STREQ(type.getParent().getName().getString(), expected.parent) << expected.name;
+    EXPECT_TRUE(type.canCreateInstance()) << expected.name;
+    EXPECT_GT(type.getKey(), previousKey) << expected.name << " registered out of order";
+    previousKey = type.getKey();
+
+    auto* node = static_cast<SoFormwright*>(type.createInstance());
+    ASSERT_NE(node, nullptr) << expected.name;
+    node->ref();
+    EXPECT_EQ(node->getTypeId(), type);
+    EXPECT_EQ(node->getIsBuiltIn(), 1);
+    EXPECT_EQ(node->getRenderEngineMode().getRenderMode(), 1);
+    node->unref();
+  }
+}
+
+}

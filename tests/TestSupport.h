@@ -1,0 +1,63 @@
+#pragma once
+
+#include <Inventor/SoDB.h>
+#include <Inventor/SoInput.h>
+#include <Inventor/errors/SoDebugError.h>
+#include <Inventor/nodes/SoSeparator.h>
+
+#include <cstring>
+#include <ostream>
+#include <string>
+#include <vector>
+
+// Collects the messages posted through SoDebugError while it lives, instead
+// of printing them.
+class DebugMessages {
+public:
+  DebugMessages()
+    : m_previous(SoDebugError::getHandlerCallback()), m_previousData(SoDebugError::getHandlerData())
+  {
+    SoDebugError::setHandlerCallback(&DebugMessages::collect, this);
+  }
+  ~DebugMessages() { SoDebugError::setHandlerCallback(m_previous, m_previousData); }
+  DebugMessages(const DebugMessages&) = delete;
+  DebugMessages& operator=(const DebugMessages&) = delete;
+
+  const std::vector<std::string>& all() const { return m_messages; }
+  size_t count() const { return m_messages.size(); }
+  // True when one message holds `text`.
+  bool contains(const std::string& text) const
+  {
+    for (const std::string& message : m_messages)
+      if (message.find(text) != std::string::npos)
+        return true;
+    return false;
+  }
+
+private:
+  static void collect(const SoError* error, void* data)
+  {
+    static_cast<DebugMessages*>(data)->m_messages.push_back(error->getDebugString().getString());
+  }
+
+  SoErrorCB* m_previous;
+  void* m_previousData;
+  std::vector<std::string> m_messages;
+};
+
+// Reads a scene from text; the result holds one reference, or is null.
+inline SoSeparator* readScene(const std::string& text)
+{
+  SoInput input;
+  input.setBuffer(text.c_str(), text.size());
+  SoSeparator* root = SoDB::readAll(&input);
+  if (root)
+    root->ref();
+  return root;
+}
+
+// Lets test failures show strings as text.
+inline void PrintTo(const SbString& text, std::ostream* out)
+{
+  *out << '"' << text.getString() << '"';
+}
