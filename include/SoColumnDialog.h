@@ -2,11 +2,13 @@
 
 #include "SoDialogGroup.h"
 
-// A container that stacks its components from top to bottom.
+// A container that puts its components side by side, one column each.
 class SoColumnDialog : public SoDialogGroup {
   SO_FORMWRIGHT_HEADER(SoColumnDialog)
 
 public:
+  SoSFInt32 columnSpacing;
+
   SoColumnDialog();
 
 protected:

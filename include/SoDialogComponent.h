@@ -2,13 +2,119 @@
 
 #include "SoTopComponent.h"
 
-// The labelled, sizeable frame of every control and container.
+#include <Inventor/fields/SoSFBool.h>
+#include <Inventor/fields/SoSFEnum.h>
+#include <Inventor/fields/SoSFInt32.h>
+
+class QBoxLayout;
+class QSpacerItem;
+
+// The labelled, sizeable frame of every control and container: a label part
+// of `labelSize` at the left, a component part of `componentSize` beside it.
+// Sizes are in pixels; 0 in a size field means "compute it", 32767 in a
+// maximum means unlimited.
 class SoDialogComponent : public SoTopComponent {
   SO_FORMWRIGHT_HEADER(SoDialogComponent)
 
 public:
+  enum EdgeStyle { NONE = 0, SHADOW_IN = 1, SHADOW_OUT = 2 };
+
+  SoSFInt32 width;
+  SoSFInt32 height;
+  SoSFBool fixedWidth;
+  SoSFBool fixedHeight;
+  SoSFInt32 minWidth;
+  SoSFInt32 minHeight;
+  SoSFInt32 maxWidth;
+  SoSFInt32 maxHeight;
+  SoSFBool labelVisibility;
+  SoSFEnum edgeStyle;
+
   SoDialogComponent();
+
+  // Negotiates the component's own size, writes the result into the size
+  // fields and makes or refreshes the form. A component with no parent node
+  // measures its label and component parts itself.
+  void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
+  void destroyWidget() override;
+  void updateFromSensor(SoSensor* sensor) override;
+  // Forgets every measure, so that the next build starts afresh.
+  void resetSize() override;
+  void getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
+
+  virtual QWidget* getLabelWidget();
+  virtual void eventNotify(unsigned int event, unsigned long long value);
+  virtual void setLabelSize(SbVec2i32& size);
+  virtual void setComponentSize(SbVec2i32& size);
+  // The control's natural size; -1 in `componentInitSize` means not measured.
+  virtual SbVec2i32 getComponentInitSize();
+  virtual SbVec2i32 getLabelInitSize();
+  virtual void setFocus();
+  virtual void changeWidgetEnable(int enabled);
+
+protected:
+  virtual void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
+  virtual void changeLabelVisibility();
+  virtual void changeEdgeStyle();
+  virtual void updateComponentWidget();
+  // Size fields changed by the application only update the record of its own
+  // values; they take effect at the next rebuild.
+  virtual void changeWidth();
+  virtual void changeHeight();
+  virtual void changeMinMaxSize();
+  virtual void change3DLabelVisibility();
+  virtual void change3DEdgeStyle();
+
+  void changeEnable() override;
+  void changeLabelAlignment() override;
+
+public:
+  QWidget* getWidget() { return componentWidget; }
+  void* getLayout() { return componentLayout; }
+  // Size and place of a control's inner widget inside its frame.
+  void get2DComponentSize(SbVec2i32& size, SbVec2i32& position);
+  // The application's own size values, as they stood at the first build.
+  void getDefaultState(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
 
 protected:
   ~SoDialogComponent() override;
+
+  void create3DDialogComponent();
+  void update3DDialogComponent();
+
+  // The parent widget until the control makes its frame, then that frame.
+  QWidget* componentWidget = nullptr;
+  QBoxLayout* componentLayout = nullptr;
+  QSpacerItem* layoutSpacer = nullptr;
+  SbVec2i32 componentSize{0, 0};
+  SbVec2i32 labelSize{0, 0};
+  SbVec2i32 componentInitSize{-1, -1};
+  SbVec2i32 labelInitSize{0, 0};
+  SbVec2i32 requestedSize{0, 0};
+  SbVec2i32 defaultSize{0, 0};
+  SbVec2i32 defaultMinSize{0, 0};
+  SbVec2i32 defaultMaxSize{0, 0};
+  int32_t firstBuild = 1;
+  SoFieldSensor* edgeStyleSensor = nullptr;
+  SoFieldSensor* labelVisibilitySensor = nullptr;
+  SoFieldSensor* widthSensor = nullptr;
+  SoFieldSensor* heightSensor = nullptr;
+  SoFieldSensor* minWidthSensor = nullptr;
+  SoFieldSensor* minHeightSensor = nullptr;
+  SoFieldSensor* maxWidthSensor = nullptr;
+  SoFieldSensor* maxHeightSensor = nullptr;
+
+  SoSFNode mainCptSeparator;
+  SoSFNode edgeStyleSwitch;
+  SoSFNode edgeStyleNone;
+  SoSFNode edgeStyleShadowIn;
+  SoSFNode edgeStyleShadowOut;
+
+private:
+  void createComponentWidget(QWidget* parent);
+  void setSize(int w, int h, int minW, int minH, int maxW, int maxH);
+  void setDefaultState();
+  // Until a control has made its frame, `componentWidget` holds the parent
+  // widget, which the component must neither delete nor restyle.
+  bool hasOwnFrame() const;
 };

@@ -10,18 +10,22 @@
 #include <Inventor/fields/SoSFEnum.h>
 #include <Inventor/fields/SoSFNode.h>
 #include <Inventor/fields/SoSFString.h>
+#include <Inventor/sensors/SoFieldSensor.h>
+
+#include <QFont>
 
 class QWidget;
 class SbPList;
 class SoAuditor;
 class SoField;
-class SoFieldSensor;
 class SoGetBoundingBoxAction;
 class SoGetMatrixAction;
+class SoGroup;
 class SoMaterial;
 class SoPickStyle;
 class SoSearchAction;
 class SoSensor;
+class SoText3;
 class SoTranslation;
 
 // The root of every interface node: windows, groups, controls and menu
@@ -46,6 +50,12 @@ public:
   static bool isInitialized();
   static const char* getProductName();
   static const char* getVersion();
+
+  // The interface node at the top of a dialog file whose auditorID is
+  // `auditorId` (or the first one, when `auditorId` is empty), or null. Each
+  // file is read once per process: the cache keeps its tree, and the result
+  // lives by the cache's reference until finish.
+  static SoFormwright* loadFromFile(SbString fileName, SbString auditorId);
 
   // Builds or refreshes the node's form inside `parent`: the 2D form (Qt
   // widgets) when `mode` is not 0, the 3D form when it is 0. `useSize[i]` not
@@ -92,7 +102,36 @@ public:
   // parents may still hold plain pointers to it.
   void destroy() override;
 
+  // Text and font services. Every pixel size of the library rests on these
+  // measures, in the one font that all 2D widgets share.
+  static SbVec2i32 getLabelPixelSize(SbString text, SoFormwright* node);
+  // Later measures and widgets use the new font; widgets built already keep
+  // theirs.
+  static void setFont(QFont font);
+  static QFont getFormwrightFont();
+  static void setWidgetFont(QWidget* widget);
+
 protected:
+  // Resolves the backslash escapes of dialog-file text. A combo box keeps its
+  // items as typed; an edit text gets carriage return plus line feed.
+  static SbString convertToCString(const SbString& text, SoFormwright* node);
+  static SbString convertFromCString(const SbString& text, int);
+  // The count of line feeds: a text has getNumLines + 1 lines.
+  static int getNumLines(const SbString& text);
+  // Sets one value of the text's string field per line; values past the
+  // last line stay.
+  static void setStringToText3(SoText3* text, const SbString& value);
+  // Inserts at `column` of entry `line` (-1: at its end) and returns the line
+  // where the insertion ended; text with a line feed only opens a new, empty
+  // line below.
+  static int insertTextTo3DText(SbString inserted, SoText3* text, int line, int column);
+  // Breaks entry `line` by characters to `width` scene units, as measured
+  // with `props` by `owner`; returns the last line of the broken text.
+  static int wrap3DTextLine(SoText3* node, int line, float width, SoGroup* props, SoFormwright* owner);
+
+  static QFont s_dialogFont;
+  static int32_t s_fontPropertiesPending;
+
   SoFormwright();
   ~SoFormwright() override;
 
@@ -108,6 +147,18 @@ protected:
   // Makes `sensor` on `field` if it does not exist yet: priority 0, so that it
   // fires inside the field's setValue and every change is synchronous.
   void makeFieldSensor(SoFieldSensor*& sensor, SoField& field);
+  // Writes a field without its sensor hearing of it: the library's own
+  // writes are no change from the application.
+  template <class Field, class Value>
+  static void setFieldUnwatched(Field& field, SoFieldSensor* sensor, const Value& value)
+  {
+    const bool attached = sensor && sensor->getAttachedField() == &field;
+    if (attached)
+      sensor->detach();
+    field.setValue(value);
+    if (attached)
+      sensor->attach(&field);
+  }
   // Whether a field change goes to the 3D form as well.
   bool follows3DForm() const { return isBuilt3D() && canBeTraversed(); }
   static void set3DCurrentActive(SoFormwright* node);
@@ -142,4 +193,7 @@ private:
 
   static int32_t s_initRefCount;
   static SbThreadMutex* s_initMutex;
+  // Entries of type SoFormwrightFile, in the order the files were first read.
+  static SbPList* s_fileCache;
+  static void releaseFileCache();
 };

@@ -1,13 +1,387 @@
 #include <SoDialogComponent.h>
 
+#include <SoColumnDialog.h>
+#include <SoTabDialog.h>
+
 #include "SoFormwrightSubNodeSource.h"
+
+#include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/sensors/SoFieldSensor.h>
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QSpacerItem>
+
+#include <algorithm>
 
 SO_FORMWRIGHT_SOURCE(SoDialogComponent, SoTopComponent, "DialogComponent")
 
 SoDialogComponent::SoDialogComponent()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogComponent);
+  SO_FORMWRIGHT_ADD_FIELD(width, 0);
+  SO_FORMWRIGHT_ADD_FIELD(height, 0);
+  SO_FORMWRIGHT_ADD_FIELD(fixedWidth, FALSE);
+  SO_FORMWRIGHT_ADD_FIELD(fixedHeight, FALSE);
+  SO_FORMWRIGHT_ADD_FIELD(minWidth, 0);
+  SO_FORMWRIGHT_ADD_FIELD(minHeight, 0);
+  SO_FORMWRIGHT_ADD_FIELD(maxWidth, 0);
+  SO_FORMWRIGHT_ADD_FIELD(maxHeight, 0);
+  SO_FORMWRIGHT_ADD_FIELD(labelVisibility, TRUE);
+  SO_FORMWRIGHT_ADD_FIELD(edgeStyle, NONE);
+  SO_FORMWRIGHT_DEFINE_ENUM_VALUE(EdgeStyle, NONE);
+  SO_FORMWRIGHT_DEFINE_ENUM_VALUE(EdgeStyle, SHADOW_IN);
+  SO_FORMWRIGHT_DEFINE_ENUM_VALUE(EdgeStyle, SHADOW_OUT);
+  SO_FORMWRIGHT_SET_SF_ENUM_TYPE(edgeStyle, EdgeStyle);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(mainCptSeparator, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(edgeStyleSwitch, SoSwitch, SoSwitch, mainCptSeparator, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(edgeStyleNone, SoGroup, SoGroup, edgeStyleSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(edgeStyleShadowIn, SoGroup, SoGroup, edgeStyleSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(edgeStyleShadowOut, SoGroup, SoGroup, edgeStyleSwitch, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
-SoDialogComponent::~SoDialogComponent() = default;
+SoDialogComponent::~SoDialogComponent()
+{
+  if (hasOwnFrame())
+    delete componentWidget;
+  componentWidget = nullptr;
+  delete labelVisibilitySensor;
+  delete edgeStyleSensor;
+  delete widthSensor;
+  delete heightSensor;
+  delete minWidthSensor;
+  delete minHeightSensor;
+  delete maxWidthSensor;
+  delete maxHeightSensor;
+}
+
+void SoDialogComponent::getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
+{
+  min.setValue(minWidth.getValue(), minHeight.getValue());
+  max.setValue(maxWidth.getValue(), maxHeight.getValue());
+  int32_t w = width.getValue();
+  int32_t h = height.getValue();
+  if (w == 0 || h == 0 || min[0] == 0 || min[1] == 0 || max[0] == 0 || max[1] == 0) {
+    SbVec2i32 d, dmin, dmax;
+    getDefaultSize(d, dmin, dmax);
+    for (int axis = 0; axis < 2; ++axis) {
+      if (min[axis] == 0)
+        min[axis] = dmin[axis];
+      if (max[axis] == 0)
+        max[axis] = dmax[axis];
+    }
+    if (w == 0)
+      w = d[0];
+    if (h == 0)
+      h = d[1];
+  }
+  // The maximum is applied last, so it wins over a larger minimum.
+  w = std::min(std::max(w, min[0]), max[0]);
+  h = std::min(std::max(h, min[1]), max[1]);
+  size.setValue(w, h);
+  if (fixedWidth.getValue()) {
+    min[0] = size[0];
+    max[0] = size[0];
+  }
+  if (fixedHeight.getValue()) {
+    min[1] = size[1];
+    max[1] = size[1];
+  }
+}
+
+void SoDialogComponent::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
+{
+  SoTopComponent::buildWidget(parent, useSize, size, mode);
+
+  if (!parentNode) {
+    SbVec2i32 label = getLabelInitSize();
+    setLabelSize(label);
+    const SbVec2i32 component = getComponentInitSize();
+    const int32_t componentWidth = component[0] > 0 ? component[0] : 0;
+    const int32_t componentHeight = labelVisibility.getValue() ? std::max(component[1], label[1]) : component[1];
+    SbVec2i32 measured(componentWidth, componentHeight);
+    setComponentSize(measured);
+  }
+
+  SbVec2i32 cur, min, max;
+  getSize(cur, min, max);
+  for (int axis = 0; axis < 2; ++axis) {
+    if (useSize[axis] == 0)
+      continue;
+    cur[axis] = size[axis];
+    if (cur[axis] < min[axis])
+      cur[axis] = min[axis];
+    else if (cur[axis] > max[axis])
+      cur[axis] = max[axis];
+  }
+  if (fixedWidth.getValue()) {
+    min[0] = cur[0];
+    max[0] = cur[0];
+  }
+  if (fixedHeight.getValue()) {
+    min[1] = cur[1];
+    max[1] = cur[1];
+  }
+
+  // The record of the application's values must be taken before the
+  // computed sizes overwrite the fields.
+  if (firstBuild) {
+    defaultSize.setValue(width.getValue(), height.getValue());
+    defaultMinSize.setValue(minWidth.getValue(), minHeight.getValue());
+    defaultMaxSize.setValue(maxWidth.getValue(), maxHeight.getValue());
+  }
+  setSize(cur[0], cur[1], min[0], min[1], max[0], max[1]);
+  setDefaultState();
+  requestedSize = size;
+
+  if (mode != 0) {
+    if (!existWidget(componentWidget)) {
+      createComponentWidget(parent);
+      firstBuild = 0;
+    }
+    updateComponentWidget();
+  } else {
+    if (!isBuilt3D()) {
+      create3DDialogComponent();
+      firstBuild = 0;
+    }
+    update3DDialogComponent();
+  }
+
+  makeFieldSensor(labelVisibilitySensor, labelVisibility);
+  makeFieldSensor(edgeStyleSensor, edgeStyle);
+  makeFieldSensor(widthSensor, width);
+  makeFieldSensor(heightSensor, height);
+  makeFieldSensor(minWidthSensor, minWidth);
+  makeFieldSensor(minHeightSensor, minHeight);
+  makeFieldSensor(maxWidthSensor, maxWidth);
+  makeFieldSensor(maxHeightSensor, maxHeight);
+}
+
+void SoDialogComponent::setSize(int w, int h, int minW, int minH, int maxW, int maxH)
+{
+  setFieldUnwatched(width, widthSensor, w);
+  setFieldUnwatched(height, heightSensor, h);
+  setFieldUnwatched(minWidth, minWidthSensor, minW);
+  setFieldUnwatched(minHeight, minHeightSensor, minH);
+  setFieldUnwatched(maxWidth, maxWidthSensor, maxW);
+  setFieldUnwatched(maxHeight, maxHeightSensor, maxH);
+}
+
+void SoDialogComponent::setDefaultState()
+{
+  // Computed sizes are not the application's and must not be written back
+  // to a file.
+  if (defaultSize[0] == 0)
+    width.setDefault(TRUE);
+  if (defaultSize[1] == 0)
+    height.setDefault(TRUE);
+  if (defaultMinSize[0] == 0)
+    minWidth.setDefault(TRUE);
+  if (defaultMinSize[1] == 0)
+    minHeight.setDefault(TRUE);
+  if (defaultMaxSize[0] == 0 || maxWidth.getValue() == 32767)
+    maxWidth.setDefault(TRUE);
+  if (defaultMaxSize[1] == 0 || maxHeight.getValue() == 32767)
+    maxHeight.setDefault(TRUE);
+  if (fixedWidth.getValue()) {
+    minWidth.setDefault(TRUE);
+    maxWidth.setDefault(TRUE);
+  }
+  if (fixedHeight.getValue()) {
+    minHeight.setDefault(TRUE);
+    maxHeight.setDefault(TRUE);
+  }
+}
+
+void SoDialogComponent::getDefaultState(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
+{
+  size = defaultSize;
+  min = defaultMinSize;
+  max = defaultMaxSize;
+}
+
+void SoDialogComponent::resetSize()
+{
+  componentInitSize.setValue(-1, -1);
+  labelSize.setValue(0, 0);
+  labelInitSize.setValue(0, 0);
+  componentSize.setValue(0, 0);
+  height = 0;
+  width = 0;
+}
+
+bool SoDialogComponent::hasOwnFrame() const
+{
+  return componentWidget && componentWidget != parentWidget;
+}
+
+void SoDialogComponent::createComponentWidget(QWidget* parent)
+{
+  componentWidget = parent;
+
+  QBoxLayout* parentLayout = nullptr;
+  if (parentNode && parentNode->isOfType(SoDialogComponent::getClassTypeId()))
+    parentLayout = static_cast<QBoxLayout*>(static_cast<SoDialogComponent*>(parentNode)->getLayout());
+  else if (parent)
+    // A window builds its children in its base widget, whose layout is the
+    // window's; a component with no parent node goes into its widget's.
+    parentLayout = qobject_cast<QBoxLayout*>(parent->layout());
+
+  const bool stacked = parentNode && (parentNode->isOfType(SoColumnDialog::getClassTypeId()) ||
+                                      parentNode->isOfType(SoTabDialog::getClassTypeId()));
+  if (stacked) {
+    componentLayout = new QVBoxLayout;
+    const bool expanding = fixedHeight.getValue() || height.getValue() == maxHeight.getValue();
+    layoutSpacer = new QSpacerItem(20, 0, QSizePolicy::Minimum, expanding ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+  } else {
+    componentLayout = new QHBoxLayout;
+    layoutSpacer = new QSpacerItem(0, 20, fixedWidth.getValue() ? QSizePolicy::Expanding : QSizePolicy::Fixed,
+                                   QSizePolicy::Minimum);
+  }
+  if (parentLayout)
+    parentLayout->addLayout(componentLayout, 0);
+  else if (parent && !parent->layout())
+    parent->setLayout(componentLayout);
+  componentLayout->setObjectName("FWTSoDialogComponentLayout");
+  componentLayout->setSpacing(0);
+  componentLayout->setContentsMargins(0, 0, 0, 0);
+}
+
+void SoDialogComponent::destroyWidget()
+{
+  if (buildMode && componentWidget) {
+    if (hasOwnFrame())
+      delete componentWidget;
+    componentWidget = nullptr;
+  }
+  SoTopComponent::destroyWidget();
+}
+
+void SoDialogComponent::updateFromSensor(SoSensor* sensor)
+{
+  if (sensor == labelVisibilitySensor) {
+    if (buildMode)
+      changeLabelVisibility();
+    if (follows3DForm())
+      change3DLabelVisibility();
+  } else if (sensor == edgeStyleSensor) {
+    if (buildMode)
+      changeEdgeStyle();
+    if (follows3DForm())
+      change3DEdgeStyle();
+  } else if (sensor == widthSensor) {
+    changeWidth();
+  } else if (sensor == heightSensor) {
+    changeHeight();
+  } else if (sensor == minWidthSensor || sensor == maxWidthSensor || sensor == minHeightSensor ||
+             sensor == maxHeightSensor) {
+    changeMinMaxSize();
+  } else {
+    SoTopComponent::updateFromSensor(sensor);
+  }
+}
+
+void SoDialogComponent::get2DComponentSize(SbVec2i32& size, SbVec2i32& position)
+{
+  // The frame's allowance: the offset depends on the edge, the 6 does not.
+  int32_t offset = 3;
+  if (edgeStyle.getValue() == SHADOW_IN)
+    offset = 2;
+  else if (edgeStyle.getValue() == SHADOW_OUT)
+    offset = 0;
+  int32_t w = width.getValue() - 6;
+  const int32_t h = height.getValue() - 6;
+  int32_t x = offset;
+  if (labelVisibility.getValue()) {
+    x = offset + labelSize[0] + 2;
+    w -= labelSize[0] + 2;
+  }
+  size.setValue(w, h);
+  position.setValue(x, offset);
+}
+
+QWidget* SoDialogComponent::getLabelWidget()
+{
+  return nullptr;
+}
+
+void SoDialogComponent::eventNotify(unsigned int, unsigned long long) {}
+
+void SoDialogComponent::setLabelSize(SbVec2i32& size)
+{
+  labelSize = size;
+}
+
+void SoDialogComponent::setComponentSize(SbVec2i32& size)
+{
+  componentSize = size;
+}
+
+SbVec2i32 SoDialogComponent::getComponentInitSize()
+{
+  return SbVec2i32(0, 0);
+}
+
+SbVec2i32 SoDialogComponent::getLabelInitSize()
+{
+  labelInitSize = getLabelPixelSize(label.getValue(), nullptr);
+  return labelInitSize;
+}
+
+void SoDialogComponent::setFocus() {}
+void SoDialogComponent::changeWidgetEnable(int) {}
+
+void SoDialogComponent::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
+{
+  size.setValue(200, 28);
+  min.setValue(25, 25);
+  max.setValue(32767, 32767);
+}
+
+void SoDialogComponent::changeLabelVisibility() {}
+
+void SoDialogComponent::changeEdgeStyle()
+{
+  auto* frame = hasOwnFrame() ? qobject_cast<QFrame*>(componentWidget) : nullptr;
+  if (!frame)
+    return;
+  const int style = edgeStyle.getValue();
+  frame->setFrameShadow(style == SHADOW_OUT ? QFrame::Raised : QFrame::Sunken);
+  frame->setFrameShape(style != NONE ? QFrame::StyledPanel : QFrame::NoFrame);
+}
+
+void SoDialogComponent::updateComponentWidget() {}
+
+void SoDialogComponent::changeWidth()
+{
+  defaultSize[0] = width.getValue();
+}
+
+void SoDialogComponent::changeHeight()
+{
+  defaultSize[1] = height.getValue();
+}
+
+void SoDialogComponent::changeMinMaxSize()
+{
+  defaultMinSize.setValue(minWidth.getValue(), minHeight.getValue());
+  defaultMaxSize.setValue(maxWidth.getValue(), maxHeight.getValue());
+}
+
+void SoDialogComponent::change3DLabelVisibility() {}
+void SoDialogComponent::change3DEdgeStyle() {}
+
+void SoDialogComponent::changeEnable()
+{
+  if (hasOwnFrame())
+    componentWidget->setEnabled(enable.getValue() != 0);
+}
+
+void SoDialogComponent::changeLabelAlignment() {}
+
+void SoDialogComponent::create3DDialogComponent() {}
+void SoDialogComponent::update3DDialogComponent() {}

@@ -1,31 +1,45 @@
 #include <SoFormwright.h>
 
 #include <SoAuditor.h>
+#include <SoDialogComboBox.h>
+#include <SoDialogEditText.h>
 #include <SoDialogGroup.h>
 #include <SoTopLevelDialog.h>
 
 #include "ScInitModuleCmd.h"
+#include "SoFormwrightFile.h"
 #include "SoFormwrightClassList.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoToolkitStarts.h"
 
 #include <Inventor/SbViewportRegion.h>
+#include <Inventor/SoDB.h>
+#include <Inventor/SoInput.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoGetMatrixAction.h>
 #include <Inventor/actions/SoSearchAction.h>
+#include <Inventor/errors/SoDebugError.h>
 #include <Inventor/lists/SbPList.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoPickStyle.h>
+#include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoText3.h>
 #include <Inventor/nodes/SoTranslation.h>
 #include <Inventor/sensors/SoFieldSensor.h>
 
+#include <QFontMetrics>
+#include <QWidget>
+
+#include <algorithm>
 #include <iterator>
+#include <string>
 
 SO_FORMWRIGHT_SOURCE(SoFormwright, SoDragger, "Formwright")
 
 int32_t SoFormwright::s_initRefCount = 0;
 SbThreadMutex* SoFormwright::s_initMutex = nullptr;
+SbPList* SoFormwright::s_fileCache = nullptr;
 SoFormwright* SoFormwright::s_current3DActive = nullptr;
 
 namespace {
@@ -63,6 +77,7 @@ void SoFormwright::finish()
     return;
   --s_initRefCount;
   if (s_initRefCount == 0) {
+    releaseFileCache();
     SoAuditor::exitClasses();
     for (auto registration = std::rbegin(kClasses); registration != std::rend(kClasses); ++registration)
       registration->exitClass();
@@ -224,7 +239,9 @@ void SoFormwright::set3DCurrentActive(SoFormwright* node)
 
 void SoFormwright::create3DFormwright()
 {
-  bboxAction = new SoGetBoundingBoxAction(SbViewportRegion());
+  // Text wrapping may have made it already.
+  if (!bboxAction)
+    bboxAction = new SoGetBoundingBoxAction(SbViewportRegion());
   searchAction = new SoSearchAction;
   matrixAction = new SoGetMatrixAction(SbViewportRegion());
   pickStyle = new SoPickStyle;
@@ -290,8 +307,254 @@ void SoFormwright::destroy()
   destroyByRef(this);
 }
 
-void SoFormwright::destroyByRef(SoFormwright*)
+void SoFormwright::destroyByRef(SoFormwright* node)
 {
-  // The dialog-file cache arrives with file loading; until then no node is
-  // held by it.
+  if (!s_fileCache)
+    return;
+  for (int i = 0; i < s_fileCache->getLength(); ++i) {
+    const SoSeparator* root = static_cast<SoFormwrightFile*>((*s_fileCache)[i])->root;
+    for (int child = 0; child < root->getNumChildren(); ++child) {
+      if (root->getChild(child) == node) {
+        // The entry and its reference on the root are left as they are: the
+        // tree may still be in use elsewhere.
+        s_fileCache->remove(i);
+        return;
+      }
+    }
+  }
+}
+
+SoFormwright* SoFormwright::loadFromFile(SbString fileName, SbString auditorId)
+{
+  if (!s_fileCache)
+    s_fileCache = new SbPList;
+  SoFormwrightFile* file = nullptr;
+  for (int i = 0; i < s_fileCache->getLength(); ++i) {
+    auto* entry = static_cast<SoFormwrightFile*>((*s_fileCache)[i]);
+    if (entry->fileName == fileName)
+      file = entry;
+  }
+  if (!file) {
+    SoInput input;
+    if (!input.openFile(fileName.getString(), FALSE))
+      return nullptr;
+    SoSeparator* root = SoDB::readAll(&input);
+    if (!root)
+      return nullptr;
+    file = new SoFormwrightFile{fileName, root};
+    root->ref();
+    s_fileCache->append(file);
+  }
+  for (int i = 0; i < file->root->getNumChildren(); ++i) {
+    SoNode* child = file->root->getChild(i);
+    if (!child->isOfType(getClassTypeId()))
+      continue;
+    auto* node = static_cast<SoFormwright*>(child);
+    if (auditorId.getLength() == 0 || node->auditorID.getValue() == auditorId)
+      return node;
+  }
+  SbString text("Cannot find any Formwright component ");
+  if (auditorId.getLength() > 0)
+    text += SbString("with auditorID = \"") + auditorId + "\" ";
+  text += SbString("in Scenic file \"") + fileName + "\".";
+  SoDebugError::post("SoFormwright::loadFromFile", "%s", text.getString());
+  return nullptr;
+}
+
+void SoFormwright::releaseFileCache()
+{
+  // Detached first: nodes that die with their file's tree look the cache up.
+  SbPList* cache = s_fileCache;
+  s_fileCache = nullptr;
+  if (!cache)
+    return;
+  for (int i = 0; i < cache->getLength(); ++i) {
+    auto* file = static_cast<SoFormwrightFile*>((*cache)[i]);
+    file->root->unref();
+    delete file;
+  }
+  delete cache;
+}
+
+// Text and font services.
+
+QFont SoFormwright::s_dialogFont("Microsoft Sans Serif", 8, -1, false);
+int32_t SoFormwright::s_fontPropertiesPending = 1;
+
+SbString SoFormwright::convertToCString(const SbString& text, SoFormwright* node)
+{
+  if (node && node->isOfType(SoDialogComboBox::getClassTypeId()))
+    return text;
+  // The edit-text widget of several lines wants carriage return plus line feed.
+  const bool crlf = node && node->isOfType(SoDialogEditText::getClassTypeId());
+  std::string converted;
+  converted.reserve(2 * text.getLength() + 1);
+  const auto newLine = [&] {
+    if (crlf)
+      converted += '\r';
+    converted += '\n';
+  };
+  for (const char* p = text.getString(); *p != '\0'; ++p) {
+    if (*p == '\r')
+      continue;
+    if (*p == '\n') {
+      newLine();
+      continue;
+    }
+    if (*p != '\\') {
+      converted += *p;
+      continue;
+    }
+    ++p;
+    if (*p == '\0') // a lone backslash at the end escapes nothing
+      break;
+    if (*p == 'n')
+      newLine();
+    else if (*p == 't')
+      converted += '\t';
+    else
+      converted += *p;
+  }
+  return SbString(converted.c_str());
+}
+
+SbString SoFormwright::convertFromCString(const SbString&, int)
+{
+  return SbString();
+}
+
+int SoFormwright::getNumLines(const SbString& text)
+{
+  int lineFeeds = 0;
+  for (const char* p = text.getString(); *p != '\0'; ++p)
+    if (*p == '\n')
+      ++lineFeeds;
+  return lineFeeds;
+}
+
+SbVec2i32 SoFormwright::getLabelPixelSize(SbString text, SoFormwright* node)
+{
+  if (text.getLength() == 0)
+    return SbVec2i32(0, 0);
+  const SbString converted = convertToCString(text, node);
+  int lines = getNumLines(converted) + 1;
+  if (node && node->isOfType(SoDialogEditText::getClassTypeId())) {
+    // Only an edit text that says it has one line is measured as one; the
+    // field is looked up by name so that any edit text without it counts
+    // its lines.
+    const SoField* multiLine = node->getField("multiLine");
+    if (multiLine && multiLine->isOfType(SoSFBool::getClassTypeId()) &&
+        !static_cast<const SoSFBool*>(multiLine)->getValue())
+      lines = 1;
+  }
+  const QFontMetrics metrics(s_dialogFont);
+  const QString whole = QString::fromLatin1(converted.getString());
+  if (lines == 1)
+    return SbVec2i32(metrics.horizontalAdvance(whole) + 3, metrics.height() + 3);
+  int maxWidth = 0;
+  int maxHeight = 0;
+  for (const QString& piece : whole.split(QLatin1Char('\n'))) {
+    maxWidth = std::max(maxWidth, metrics.horizontalAdvance(piece));
+    maxHeight = std::max(maxHeight, metrics.height());
+  }
+  return SbVec2i32(maxWidth + 3, maxHeight * lines + 3);
+}
+
+void SoFormwright::setFont(QFont font)
+{
+  s_dialogFont = font;
+}
+
+QFont SoFormwright::getFormwrightFont()
+{
+  return s_dialogFont;
+}
+
+void SoFormwright::setWidgetFont(QWidget* widget)
+{
+  widget->setFont(s_dialogFont);
+}
+
+void SoFormwright::setStringToText3(SoText3* text, const SbString& value)
+{
+  int line = 0;
+  std::string current;
+  for (const char* p = value.getString(); *p != '\0'; ++p) {
+    if (*p == '\n') {
+      text->string.set1Value(line++, SbString(current.c_str()));
+      current.clear();
+    } else {
+      current += *p;
+    }
+  }
+  text->string.set1Value(line, SbString(current.c_str()));
+}
+
+int SoFormwright::insertTextTo3DText(SbString inserted, SoText3* text, int line, int column)
+{
+  SoMFString& lines = text->string;
+  const int num = lines.getNum();
+  if (inserted.find("\n") != -1) {
+    // From the end, each line takes the value two places above it, and the
+    // line right below `line` keeps its own: the 3D editing expects exactly
+    // this shift.
+    for (int i = num - 1; i > line + 1; --i) {
+      const SbString moved = lines[i - 1]; // a copy: growing the field moves its values
+      lines.set1Value(i + 1, moved);
+    }
+    ++line;
+    lines.set1Value(line, SbString());
+    return line;
+  }
+  if (line >= num) {
+    lines.set1Value(line, inserted);
+    return line;
+  }
+  std::string current = lines[line].getString();
+  if (column < 0 || column > static_cast<int>(current.size()))
+    current += inserted.getString();
+  else
+    current.insert(static_cast<size_t>(column), inserted.getString());
+  lines.set1Value(line, SbString(current.c_str()));
+  return line;
+}
+
+int SoFormwright::wrap3DTextLine(SoText3* node, int line, float width, SoGroup* props, SoFormwright* owner)
+{
+  if (!owner->bboxAction)
+    owner->bboxAction = new SoGetBoundingBoxAction(SbViewportRegion());
+  auto* measured = new SoSeparator;
+  measured->ref();
+  if (props)
+    measured->addChild(props);
+  auto* text = new SoText3;
+  measured->addChild(text);
+
+  const std::string source = node->string[line].getString();
+  std::string prefix;
+  size_t rest = 0;
+  float size = 0.0f;
+  while (rest < source.size()) {
+    prefix += source[rest++];
+    text->string.setValue(prefix.c_str());
+    owner->bboxAction->apply(measured);
+    size = owner->bboxAction->getBoundingBox().getSize()[0];
+    if (size >= width)
+      break;
+  }
+  // The character that overflows ends this line and also begins the next.
+  // A line of one character keeps it, so that a width below one character
+  // still moves on.
+  if (size > width && prefix.size() > 1)
+    --rest;
+  if (rest < source.size()) {
+    node->string.set1Value(line, SbString(prefix.c_str()));
+    node->string.insertSpace(line + 1, 1);
+    node->string.set1Value(line + 1, SbString(source.substr(rest).c_str()));
+    line = wrap3DTextLine(node, line + 1, width, props, owner);
+  }
+
+  measured->removeAllChildren();
+  measured->unref();
+  return line;
 }

@@ -7,6 +7,7 @@ SO_FORMWRIGHT_SOURCE(SoRowDialog, SoDialogGroup, "RowDialog")
 SoRowDialog::SoRowDialog()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoRowDialog);
+  SO_FORMWRIGHT_ADD_FIELD(rowSpacing, 0);
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 

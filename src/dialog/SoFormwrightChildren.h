@@ -1,0 +1,200 @@
+#pragma once
+
+// The child components of a window or group. They stand at the head of the
+// kit's own child list, ahead of the kit's parts, and the owner counts them
+// in `numChildren`. Windows and groups differ only in the type they accept
+// and in the class named by their messages, so both use this one template.
+// `Owner` declares it a friend.
+
+#include <SoFormwright.h>
+
+#include "SoDBImpl.h"
+
+#include <Inventor/SoInput.h>
+#include <Inventor/SoOutput.h>
+#include <Inventor/actions/SoWriteAction.h>
+#include <Inventor/errors/SoDebugError.h>
+#include <Inventor/misc/SoChildList.h>
+
+#include <string>
+
+template <class Owner, class Child>
+class SoFormwrightChildren {
+public:
+  SoFormwrightChildren(Owner& owner, const char* className) : m_owner(owner), m_className(className) {}
+
+  bool insert(Child* child, int index, const char* operation) const
+  {
+    if (!isChild(child, operation))
+      return false;
+    if (index < 0 || index > m_owner.numChildren) {
+      SoDebugError::post(source(operation).c_str(), "Index %d is out of range %d - %d", index, 0,
+                         m_owner.numChildren);
+      return false;
+    }
+    m_owner.children->insert(child, index);
+    ++m_owner.numChildren;
+    child->setParent(&m_owner);
+    return true;
+  }
+
+  SoNode* get(int index) const
+  {
+    if (index >= m_owner.numChildren) {
+      SoDebugError::post(source("getChild").c_str(), "Index %d is out of range %d - %d; Be careful", index, 0,
+                         m_owner.numChildren);
+      return nullptr;
+    }
+    return (*m_owner.children)[index];
+  }
+
+  int find(const SoNode* child) const { return m_owner.children->find(const_cast<SoNode*>(child)); }
+
+  bool remove(int index, const char* operation = "removeChild") const
+  {
+    if (!inRange(index, operation))
+      return false;
+    if (auto* child = static_cast<Child*>((*m_owner.children)[index]))
+      child->destroyWidget();
+    --m_owner.numChildren;
+    m_owner.children->remove(index);
+    return true;
+  }
+
+  // Only the children go; the kit's parts behind them stay.
+  void removeAll() const
+  {
+    for (int i = m_owner.numChildren - 1; i >= 0; --i) {
+      static_cast<Child*>((*m_owner.children)[i])->destroyWidget();
+      m_owner.children->remove(i);
+    }
+    m_owner.numChildren = 0;
+  }
+
+  bool replace(int index, Child* child) const
+  {
+    if (!isChild(child, "replaceChild") || !inRange(index, "replaceChild"))
+      return false;
+    static_cast<Child*>((*m_owner.children)[index])->destroyWidget();
+    m_owner.children->set(index, child);
+    child->setParent(&m_owner);
+    return true;
+  }
+
+  // Reads the owner's fields and then its children. Notification stays off
+  // when the fields cannot be read.
+  int readInstance(SoInput* in, unsigned short flags) const
+  {
+    const SbBool notifyWasEnabled = m_owner.enableNotify(FALSE);
+    SbBool notBuiltIn = FALSE;
+    if (!m_owner.getFieldData()->read(in, &m_owner, FALSE, notBuiltIn))
+      return FALSE;
+    int ok = TRUE;
+    if (!in->isBinary() || (flags & 2))
+      ok = m_owner.readChildren(in);
+    m_owner.enableNotify(notifyWasEnabled);
+    return ok;
+  }
+
+  // A child of another type fails the read, and with it the file.
+  int readChildren(SoInput* in) const
+  {
+    const SoType childType = Child::getClassTypeId();
+    if (!in->isBinary()) {
+      for (;;) {
+        // After a failed read the toolkit has already released what it read.
+        SoBase* child = nullptr;
+        if (!SoBase::read(in, child, childType))
+          return FALSE;
+        if (!child)
+          return TRUE;
+        m_owner.addChild(static_cast<Child*>(child));
+      }
+    }
+    int count = 0;
+    if (!in->read(count))
+      return FALSE;
+    int ok = TRUE;
+    for (int i = 0; i < count; ++i) {
+      SoBase* child = nullptr;
+      if (!SoBase::read(in, child, childType) || !child) {
+        ok = FALSE;
+        break;
+      }
+      m_owner.addChild(static_cast<Child*>(child));
+    }
+    if (ok && in->getIVVersion() == 1.0f) {
+      int unused = -1;
+      if (!in->read(unused) || unused < -1)
+        ok = FALSE;
+    }
+    return ok;
+  }
+
+  // Writes the owner's fields and its child components, never its kit parts.
+  // `clampPathIndex` keeps a path's index inside the children;
+  // `skipChildrenInCluster` leaves the children out when a cluster or a
+  // render-farm worker is writing.
+  void write(SoWriteAction* action, bool clampPathIndex, bool skipChildrenInCluster) const
+  {
+    SoOutput* out = action->getOutput();
+    const int count = m_owner.numChildren;
+    if (out->getStage() == SoOutput::COUNT_REFS) {
+      m_owner.addWriteReference(out, FALSE);
+      if (!m_owner.hasMultipleWriteRefs() && count > 0)
+        m_owner.children->traverse(action, 0, count - 1);
+      return;
+    }
+    if (m_owner.writeHeader(out, TRUE, FALSE))
+      return;
+    m_owner.getFieldData()->write(out, &m_owner);
+
+    int last = count - 1;
+    int numIndices = 0;
+    const int* indices = nullptr;
+    if (action->getPathCode(numIndices, indices) == SoAction::IN_PATH) {
+      last = indices[numIndices - 1];
+      if (clampPathIndex && last > count - 1)
+        last = count - 1;
+    }
+    int written = 0;
+    for (int i = 0; i <= last; ++i)
+      if ((*m_owner.children)[i]->shouldWrite())
+        ++written;
+
+    if (skipChildrenInCluster && (SoDBImpl::isRunningCluster() || SoDBImpl::isRunningART())) {
+      if (out->isBinary())
+        out->write(0);
+    } else {
+      if (out->isBinary())
+        out->write(written);
+      for (int i = 0; i <= last; ++i)
+        if ((*m_owner.children)[i]->shouldWrite())
+          m_owner.children->traverse(action, i);
+    }
+    m_owner.writeFooter(out);
+  }
+
+private:
+  std::string source(const char* operation) const { return std::string(m_className) + "::" + operation; }
+
+  bool isChild(const Child* child, const char* operation) const
+  {
+    if (!child)
+      SoDebugError::post(source(operation).c_str(), "NULL child node");
+    return child != nullptr;
+  }
+
+  bool inRange(int index, const char* operation) const
+  {
+    if (index < 0 || index >= m_owner.numChildren) {
+      SoDebugError::post(source(operation).c_str(), "Index %d is out of range %d - %d", index, 0,
+                         m_owner.numChildren);
+      return false;
+    }
+    return true;
+  }
+
+  Owner& m_owner;
+  const char* m_className;
+};
