@@ -79,6 +79,12 @@ public:
 protected:
   ~SoDialogComponent() override;
 
+  // Whether a size field still says "compute it".
+  bool needsDefaultSize() const;
+  // The size triple of the size fields, zeros taking the `defaults` triple,
+  // clamped, with fixed axes pinned to the current size.
+  void getSizeFromFields(const SbVec2i32 defaults[3], SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) const;
+
   void create3DDialogComponent();
   void update3DDialogComponent();
 
@@ -86,6 +92,10 @@ protected:
   QWidget* componentWidget = nullptr;
   QBoxLayout* componentLayout = nullptr;
   QSpacerItem* layoutSpacer = nullptr;
+  // A control's label widget, where it has one apart from its frame; a
+  // control whose label widget is its frame owns it no more.
+  QWidget* labelWidget = nullptr;
+  char ownsLabelWidget = 1;
   SbVec2i32 componentSize{0, 0};
   SbVec2i32 labelSize{0, 0};
   SbVec2i32 componentInitSize{-1, -1};

@@ -2,12 +2,17 @@
 
 #include "SoDialogComponent.h"
 
+class SoDialogEditTextAuditor;
+
 // A one-line or multi-line text field.
 class SoDialogEditText : public SoDialogComponent {
   SO_FORMWRIGHT_HEADER(SoDialogEditText)
 
 public:
   SoDialogEditText();
+
+  void addAuditor(SoDialogEditTextAuditor* auditor);
+  void removeAuditor(SoDialogEditTextAuditor* auditor);
 
 protected:
   ~SoDialogEditText() override;

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "SoChildSizeTable.h"
 #include "SoDialogComponent.h"
 
 #include <Inventor/fields/SoSFInt32.h>
 
+class QFrame;
 class SoChildList;
+class SoDialogAuditor;
+class SoDialogGroupAuditor;
 class SoInput;
 class SoWriteAction;
 template <class Owner, class Child>
@@ -25,6 +29,29 @@ public:
 
   SoDialogGroup();
 
+  void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
+  void destroyWidget() override;
+  void resetSize() override;
+  void getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
+  // Storing a label or component size passes the negotiation on to the
+  // group's own children, which align among themselves.
+  void setLabelSize(SbVec2i32& size) override;
+  void setComponentSize(SbVec2i32& size) override;
+  // A plain group takes no part in the alignment of its siblings.
+  SbVec2i32 getComponentInitSize() override;
+  SbVec2i32 getLabelInitSize() override;
+  // Passes the group's enabled state to every child.
+  void changeWidgetEnable(int enabled) override;
+  void addAuditor(SoDialogAuditor* auditor);
+  void removeAuditor(SoDialogAuditor* auditor);
+  // Sorts a control below the group to the group's auditors, or passes it up.
+  void applyAuditor(SoFormwright* control) override;
+  void applyAuditors();
+  SoFormwright* searchForAuditorId(SbString id);
+
+  // Forgets the negotiated sizes and climbs to the window, which builds anew.
+  void updateAfterSceneGraphChange();
+
   virtual void addChild(SoDialogComponent* child);
   virtual void insertChild(SoDialogComponent* child, int index);
   virtual SoNode* getChild(int index) const;
@@ -42,12 +69,36 @@ public:
 protected:
   ~SoDialogGroup() override;
 
+  void changeEnable() override;
   virtual int readChildren(SoInput* in);
   SbBool readInstance(SoInput* in, unsigned short flags) override;
+  // The allowance of the group's frame, added to the children's sizes.
+  virtual void fixSizeWithBorder(SbVec2i32& size, int sign);
+  virtual void setChildrenComponentSize();
+  virtual void setChildrenLabelSize();
+  void updateChildrenSizeDB();
+  // Builds each child inside the group's frame.
+  void updateChildren();
+
+  // What rows and columns share, along `axis` (1: stacked one above the
+  // other, 0: side by side).
+  SbVec2i32 stackedComponentInitSize(int axis, int32_t spacing);
+  void stackedDefaultSize(int axis, int32_t spacing, SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
+  void buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode, QBoxLayout* (*makeLayout)(QWidget*),
+                    const char* layoutName, int32_t spacing);
+  void addFrameAllowance(SbVec2i32& size, int sign) const;
+  void setFrameMargins();
+  void computeNewChildrenSize(int axis, SbVec2i32& newSize);
+  SoDialogComponent* getComponent(int index) const { return static_cast<SoDialogComponent*>((*children)[index]); }
 
   int32_t numChildren = 0;
+  QFrame* groupWidget = nullptr;
+  SoDialogGroupAuditor* defaultAuditor = nullptr;
+  SoChildSizeTable sizeTable;
 
 private:
+  void createGroupWidget();
+
   friend class SoFormwrightChildren<SoDialogGroup, SoDialogComponent>;
   SoFormwrightChildren<SoDialogGroup, SoDialogComponent> childList() const;
 };

@@ -2,13 +2,32 @@
 
 #include "SoDialogComponent.h"
 
-// A line between components, across its container's direction.
+class SoDialogQSeparator;
+
+// A line between components, across its container's direction: its
+// container turns it when it sizes its children.
 class SoDialogSeparator : public SoDialogComponent {
   SO_FORMWRIGHT_HEADER(SoDialogSeparator)
 
 public:
   SoDialogSeparator();
 
+  void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
+  void destroyWidget() override;
+  // Not 0 draws a horizontal line. Only stored: it shows at the next build.
+  void setOrientationHorz(int horizontal);
+  void updateSeparatorWidget();
+
 protected:
   ~SoDialogSeparator() override;
+
+  SoDialogQSeparator* separatorWidget = nullptr;
+  int32_t orientationHorz = 1;
+
+private:
+  void createSeparatorWidget();
+  void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
+  // The 3D form; empty until the in-scene presentation is built.
+  void create3DSeparator();
+  void update3DSeparator();
 };

@@ -139,6 +139,21 @@ protected:
   void removeAuditor(SoAuditor* auditor);
   SoAuditor*& getAuditor(int index);
   int getAuditorListLength() const;
+  // Tells a control's own auditors, all of class `Auditor`, of an event, in
+  // the order they were added. A control with an auditor of its own is heard
+  // by nobody else; one with none leaves the event to its parent.
+  template <class Auditor, class Node>
+  void applyControlAuditors(Node* node, void (Auditor::*operation)(Node*))
+  {
+    const int count = getAuditorListLength();
+    if (count == 0) {
+      if (parentNode)
+        parentNode->applyAuditor(node);
+      return;
+    }
+    for (int i = 0; i < count; ++i)
+      (static_cast<Auditor*>(getAuditor(i))->*operation)(node);
+  }
 
   static int existWidget(QWidget* widget);
   static void fieldChangedCB(void* data, SoSensor* sensor);

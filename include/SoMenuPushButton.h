@@ -2,12 +2,17 @@
 
 #include "SoMenuItem.h"
 
+class SoMenuPushButtonAuditor;
+
 // A menu entry that acts when chosen.
 class SoMenuPushButton : public SoMenuItem {
   SO_FORMWRIGHT_HEADER(SoMenuPushButton)
 
 public:
   SoMenuPushButton();
+
+  void addAuditor(SoMenuPushButtonAuditor* auditor);
+  void removeAuditor(SoMenuPushButtonAuditor* auditor);
 
 protected:
   ~SoMenuPushButton() override;

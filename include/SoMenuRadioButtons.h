@@ -2,12 +2,17 @@
 
 #include "SoMenuItem.h"
 
+class SoMenuRadioButtonsAuditor;
+
 // A group of mutually exclusive menu entries.
 class SoMenuRadioButtons : public SoMenuItem {
   SO_FORMWRIGHT_HEADER(SoMenuRadioButtons)
 
 public:
   SoMenuRadioButtons();
+
+  void addAuditor(SoMenuRadioButtonsAuditor* auditor);
+  void removeAuditor(SoMenuRadioButtonsAuditor* auditor);
 
 protected:
   ~SoMenuRadioButtons() override;

@@ -1,20 +1,26 @@
 #pragma once
 
+#include "SoChildSizeTable.h"
 #include "SoFormwright.h"
 
 #include <Inventor/fields/SoSFInt32.h>
 #include <Inventor/fields/SoSFVec2i32.h>
 #include <Inventor/fields/SoSFVec3f.h>
 
+class QVBoxLayout;
 class SoChildList;
+class SoDialogAuditor;
 class SoInput;
+class SoMenuBar;
 class SoTopComponent;
+class SoTopLevelAuditor;
 class SoWriteAction;
 template <class Owner, class Child>
 class SoFormwrightChildren;
 
 // A window: the top of a dialog. Its children are components and at most one
-// menu bar, in the order they appear in the window.
+// menu bar, stacked in the order they appear in the window. The window works
+// out its own size and its children's sizes from what the children report.
 class SoTopLevelDialog : public SoFormwright {
   SO_FORMWRIGHT_HEADER(SoTopLevelDialog)
 
@@ -43,6 +49,16 @@ public:
 
   SoTopLevelDialog();
 
+  // Negotiates the sizes of the whole tree and builds it, as widgets or in
+  // the scene as the toolkit-wide form says. With `buildInsideParent` the
+  // dialog fills `parent` instead of opening a window of its own.
+  void buildDialog(QWidget* parent, int buildInsideParent);
+  void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
+  void updateFromSensor(SoSensor* sensor) override;
+  void resetSize() override;
+
+  virtual void show();
+  virtual void hide();
   virtual void addChild(SoTopComponent* child);
   virtual void insertChild(SoTopComponent* child, int index);
   virtual SoNode* getChild(int index) const;
@@ -54,16 +70,88 @@ public:
   virtual void replaceChild(SoTopComponent* oldChild, SoTopComponent* newChild);
   virtual void replaceChild(int index, SoTopComponent* newChild);
 
+  // Hides the window and gives up the application's reference.
+  void close();
+  // Hides the window; a dialog built inside its parent ends the process.
+  int destroyDialog();
+  // Negotiates and builds again after the tree changed.
+  void updateDialogBuild(int mode);
+  void updateAfterSceneGraphChange();
+
+  void addAuditor(SoDialogAuditor* auditor);
+  void removeAuditor(SoDialogAuditor* auditor);
+  // Sorts a control of the dialog to the dialog's auditors, or to its default
+  // auditor when it has none. A window looks at no parent.
+  void applyAuditor(SoFormwright* control) override;
+  void applyAuditors();
+  SoFormwright* searchForAuditorId(SbString id);
+
+  void setPosition(SbVec2i32& position);
+  void setSize(int w, int h, int minW, int minH, int maxW, int maxH);
+  void getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
+  // The children's triples stacked one above the other, with margin and
+  // spacing.
+  void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
+  // The application's own size values, as they stood before the first build.
+  void getDefaultState(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
+  // A window has no frame allowance.
+  void fixSizeWithBorder(SbVec2i32&, int) {}
+  // Spreads a height change over the children, one pixel at a time.
+  void computeNewChildrenHeight(SbVec2i32& newSize);
+
+  QWidget* getWidget() const { return topLevelWidget; }
+  QWidget* getBaseWidget() const { return baseWidget; }
+  QVBoxLayout* getLayout() const { return dialogLayout; }
+  SoMenuBar* widgetHasMenuBar() const;
+  void setCurrentFocusedWidget(QWidget* widget) { currentFocusedWidget = widget; }
+  QWidget* getCurrentFocusedWidget() const { return currentFocusedWidget; }
+  void setCurrentScrolledWidget(QWidget* widget) { currentScrolledWidget = widget; }
+  QWidget* getCurrentScrolledWidget() const { return currentScrolledWidget; }
+  SbVec2i32 getTopLevelSize() const { return SbVec2i32(width.getValue(), height.getValue()); }
+  void updateMinimizedState();
+
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
 
 protected:
   ~SoTopLevelDialog() override;
 
+  void changeEnable() override;
+  void changeLabel() override;
   virtual int readChildren(SoInput* in);
   SbBool readInstance(SoInput* in, unsigned short flags) override;
 
+  QWidget* baseWidget = nullptr;
+  int32_t buildInsideParent = 0;
+  // Stays null in the widget form: the base widget is the window.
+  QWidget* topLevelWidget = nullptr;
   int32_t numChildren = 0;
+  int32_t firstBuild = 1;
+  QWidget* currentFocusedWidget = nullptr;
+  QWidget* currentScrolledWidget = nullptr;
+  QVBoxLayout* dialogLayout = nullptr;
+  int32_t captureDefaults = 1;
+  SbVec2i32 defaultSize{0, 0};
+  SbVec2i32 defaultMinSize{0, 0};
+  SbVec2i32 defaultMaxSize{0, 0};
+  SoTopLevelAuditor* defaultAuditor = nullptr;
+  SoChildSizeTable sizeTable;
+
+  SoFieldSensor* minimizedSensor = nullptr;
+  SoFieldSensor* marginSensor = nullptr;
+  SoFieldSensor* modalFrameSensor = nullptr;
+  SoFieldSensor* resizableSensor = nullptr;
+  SoFieldSensor* rowSpacingSensor = nullptr;
+  SoFieldSensor* positionSensor = nullptr;
+  SoFieldSensor* position3DSensor = nullptr;
+  SoFieldSensor* minimized3DPositionSensor = nullptr;
+  SoFieldSensor* independentMinimizedPositionSensor = nullptr;
+  SoFieldSensor* widthSensor = nullptr;
+  SoFieldSensor* heightSensor = nullptr;
+  SoFieldSensor* minWidthSensor = nullptr;
+  SoFieldSensor* minHeightSensor = nullptr;
+  SoFieldSensor* maxWidthSensor = nullptr;
+  SoFieldSensor* maxHeightSensor = nullptr;
 
   SoSFNode frameSep;
   SoSFNode frame;
@@ -75,6 +163,19 @@ protected:
   SoSFNode minPressed;
 
 private:
+  virtual void changeWidth();
+  virtual void changeHeight();
+
+  void createBaseWidget(QWidget* parent);
+  void changePosition();
+  void changeRowSpacing();
+  void changeMinMaxSize();
+  void setDefaultState();
+  void setChildrenLabelSize();
+  void setChildrenComponentSize();
+  void updateChildrenSizeDB();
+  void updateChildren();
+
   friend class SoFormwrightChildren<SoTopLevelDialog, SoTopComponent>;
   SoFormwrightChildren<SoTopLevelDialog, SoTopComponent> childList() const;
 };

@@ -133,6 +133,8 @@ TEST(TextServices, labelPixelSizeOfOneLine)
   EXPECT_EQ(SoFormwright::getLabelPixelSize("Name:", nullptr), oneLine("Name:"));
   EXPECT_EQ(SoFormwright::getLabelPixelSize("say \\\"hi\\\"", nullptr), oneLine("say \"hi\""))
     << "the text is measured after its escapes are resolved";
+  EXPECT_EQ(SoFormwright::getLabelPixelSize("Gr\xc3\xb6\xc3\x9f" "e:", nullptr), oneLine("Gr\xc3\xb6\xc3\x9f" "e:"))
+    << "UTF-8 text is measured as the characters it shows";
 }
 
 TEST(TextServices, labelPixelSizeOfSeveralLinesTakesTheWidestLineAndAllHeights)

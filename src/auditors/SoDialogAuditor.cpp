@@ -1,18 +1,87 @@
 #include <SoDialogAuditor.h>
 
+#include <SoDialogCheckBox.h>
+#include <SoDialogPushButton.h>
+#include <SoMenuPushButton.h>
+#include <SoPreferences.h>
+
 #include "SoAuditorSource.h"
+
+#include <Inventor/errors/SoDebugError.h>
 
 SO_FORMWRIGHT_AUDITOR_SOURCE(SoDialogAuditor, SoAuditor::getClassTypeId(), "SoDialogAuditor")
 
-void SoDialogAuditor::dialogPushButton(SoDialogPushButton*) {}
-void SoDialogAuditor::dialogCheckBox(SoDialogCheckBox*) {}
+namespace {
+// Read at every event, so that the report can be switched on while running.
+bool reportsUnheardControls()
+{
+  return SoPreferences::getValue("DEBUG_FORMWRIGHT_AUDITORS") != nullptr;
+}
+
+// The head of the report on a control that the application left unheard.
+SbString unheardControl(const char* className)
+{
+  SbString text("WARNING ! The DialogAuditor does not define the ");
+  text += className;
+  text += " component :";
+  return text;
+}
+
+void addStringField(SbString& text, const char* name, const SoSFString& field)
+{
+  text += "\n\t\t -> ";
+  text += name;
+  text += " \"";
+  text += field.getValue();
+  text += "\"";
+}
+
+void postUnheard(const char* source, const SbString& text)
+{
+  SoDebugError::postInfo(source, "%s", text.getString());
+}
+}
+
+void SoDialogAuditor::dialogPushButton(SoDialogPushButton* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoDialogPushButton");
+  addStringField(text, "label", node->label);
+  addStringField(text, "buttonLabel", node->buttonLabel);
+  postUnheard("SoDialogAuditor::dialogPushButton", text);
+}
+
+void SoDialogAuditor::dialogCheckBox(SoDialogCheckBox* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoDialogCheckBox");
+  addStringField(text, "label", node->label);
+  addStringField(text, "onString", node->onString);
+  addStringField(text, "offString", node->offString);
+  postUnheard("SoDialogAuditor::dialogCheckBox", text);
+}
+
 void SoDialogAuditor::dialogComboBox(SoDialogComboBox*) {}
 void SoDialogAuditor::dialogEditText(SoDialogEditText*) {}
 void SoDialogAuditor::dialogIntegerSlider(SoDialogIntegerSlider*) {}
 void SoDialogAuditor::dialogRadioButtons(SoDialogRadioButtons*) {}
 void SoDialogAuditor::dialogRealSlider(SoDialogRealSlider*) {}
+
+// No node hands a tab dialog to a general auditor: tab dialogs have auditors
+// of their own.
 void SoDialogAuditor::tabDialog(SoTabDialog*) {}
-void SoDialogAuditor::menuPushButton(SoMenuPushButton*) {}
+
+void SoDialogAuditor::menuPushButton(SoMenuPushButton* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoMenuPushButton");
+  addStringField(text, "label", node->label);
+  postUnheard("SoDialogAuditor::menuPushButton", text);
+}
+
 void SoDialogAuditor::menuCheckBox(SoMenuCheckBox*) {}
 void SoDialogAuditor::menuFileSelection(SoMenuFileSelection*) {}
 void SoDialogAuditor::menuRadioButtons(SoMenuRadioButtons*) {}

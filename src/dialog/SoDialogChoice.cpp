@@ -1,5 +1,7 @@
 #include <SoDialogChoice.h>
 
+#include <SoDialogChoiceAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoDialogChoice, SoDialogComponent, "DialogChoice")
@@ -11,3 +13,13 @@ SoDialogChoice::SoDialogChoice()
 }
 
 SoDialogChoice::~SoDialogChoice() = default;
+
+void SoDialogChoice::addAuditor(SoDialogChoiceAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoDialogChoice::removeAuditor(SoDialogChoiceAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

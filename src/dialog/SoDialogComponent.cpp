@@ -2,8 +2,10 @@
 
 #include <SoColumnDialog.h>
 #include <SoTabDialog.h>
+#include <SoTopLevelDialog.h>
 
 #include "SoFormwrightSubNodeSource.h"
+#include "SoSizeRules.h"
 
 #include <Inventor/nodes/SoGroup.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -60,28 +62,28 @@ SoDialogComponent::~SoDialogComponent()
 
 void SoDialogComponent::getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
 {
+  SbVec2i32 defaults[3];
+  if (needsDefaultSize())
+    getDefaultSize(defaults[0], defaults[1], defaults[2]);
+  getSizeFromFields(defaults, size, min, max);
+}
+
+bool SoDialogComponent::needsDefaultSize() const
+{
+  return SoSizeRules::hasZero(SbVec2i32(width.getValue(), height.getValue()),
+                              SbVec2i32(minWidth.getValue(), minHeight.getValue()),
+                              SbVec2i32(maxWidth.getValue(), maxHeight.getValue()));
+}
+
+void SoDialogComponent::getSizeFromFields(const SbVec2i32 defaults[3], SbVec2i32& size, SbVec2i32& min,
+                                          SbVec2i32& max) const
+{
+  size.setValue(width.getValue(), height.getValue());
   min.setValue(minWidth.getValue(), minHeight.getValue());
   max.setValue(maxWidth.getValue(), maxHeight.getValue());
-  int32_t w = width.getValue();
-  int32_t h = height.getValue();
-  if (w == 0 || h == 0 || min[0] == 0 || min[1] == 0 || max[0] == 0 || max[1] == 0) {
-    SbVec2i32 d, dmin, dmax;
-    getDefaultSize(d, dmin, dmax);
-    for (int axis = 0; axis < 2; ++axis) {
-      if (min[axis] == 0)
-        min[axis] = dmin[axis];
-      if (max[axis] == 0)
-        max[axis] = dmax[axis];
-    }
-    if (w == 0)
-      w = d[0];
-    if (h == 0)
-      h = d[1];
-  }
-  // The maximum is applied last, so it wins over a larger minimum.
-  w = std::min(std::max(w, min[0]), max[0]);
-  h = std::min(std::max(h, min[1]), max[1]);
-  size.setValue(w, h);
+  if (needsDefaultSize())
+    SoSizeRules::takeDefaults(size, min, max, defaults[0], defaults[1], defaults[2]);
+  SoSizeRules::clamp(size, min, max);
   if (fixedWidth.getValue()) {
     min[0] = size[0];
     max[0] = size[0];
@@ -224,11 +226,12 @@ void SoDialogComponent::createComponentWidget(QWidget* parent)
   componentWidget = parent;
 
   QBoxLayout* parentLayout = nullptr;
-  if (parentNode && parentNode->isOfType(SoDialogComponent::getClassTypeId()))
+  if (parentNode && parentNode->isOfType(SoTopLevelDialog::getClassTypeId()))
+    parentLayout = static_cast<SoTopLevelDialog*>(parentNode)->getLayout();
+  else if (parentNode && parentNode->isOfType(SoDialogComponent::getClassTypeId()))
     parentLayout = static_cast<QBoxLayout*>(static_cast<SoDialogComponent*>(parentNode)->getLayout());
   else if (parent)
-    // A window builds its children in its base widget, whose layout is the
-    // window's; a component with no parent node goes into its widget's.
+    // A component standing alone goes into its parent widget's layout.
     parentLayout = qobject_cast<QBoxLayout*>(parent->layout());
 
   const bool stacked = parentNode && (parentNode->isOfType(SoColumnDialog::getClassTypeId()) ||

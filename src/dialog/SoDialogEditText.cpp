@@ -1,5 +1,7 @@
 #include <SoDialogEditText.h>
 
+#include <SoDialogEditTextAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoDialogEditText, SoDialogComponent, "DialogEditText")
@@ -11,3 +13,13 @@ SoDialogEditText::SoDialogEditText()
 }
 
 SoDialogEditText::~SoDialogEditText() = default;
+
+void SoDialogEditText::addAuditor(SoDialogEditTextAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoDialogEditText::removeAuditor(SoDialogEditTextAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

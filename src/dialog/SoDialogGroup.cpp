@@ -1,7 +1,18 @@
 #include <SoDialogGroup.h>
 
+#include <SoDialogGroupAuditor.h>
+#include <SoDialogSeparator.h>
+#include <SoTopLevelDialog.h>
+
+#include "SoAuditorDispatch.h"
+#include "SoFormMode.h"
 #include "SoFormwrightChildren.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoSizeRules.h"
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QSpacerItem>
 
 SO_FORMWRIGHT_SOURCE(SoDialogGroup, SoDialogComponent, "DialogGroup")
 
@@ -23,8 +34,252 @@ SoDialogGroup::SoDialogGroup()
 SoDialogGroup::~SoDialogGroup()
 {
   for (int i = 0; i < numChildren; ++i)
-    if (auto* child = static_cast<SoDialogComponent*>((*children)[i]))
+    if (SoDialogComponent* child = getComponent(i))
       child->destroyWidget();
+  delete defaultAuditor;
+}
+
+void SoDialogGroup::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
+{
+  SoDialogComponent::buildWidget(parent, useSize, size, mode);
+  if (mode == 0 && !parentNode && !defaultAuditor)
+    defaultAuditor = new SoDialogGroupAuditor;
+  if (mode != 0 && !existWidget(groupWidget))
+    createGroupWidget();
+}
+
+void SoDialogGroup::createGroupWidget()
+{
+  groupWidget = new QFrame(componentWidget);
+  componentWidget = groupWidget;
+  groupWidget->setObjectName("FWTSoDialogGroupGroupWidget");
+  groupWidget->setMinimumSize(SoSizeRules::toQtSize(minWidth.getValue()), SoSizeRules::toQtSize(minHeight.getValue()));
+  groupWidget->setMaximumWidth(SoSizeRules::toQtSize(fixedWidth.getValue() ? width.getValue() : maxWidth.getValue()));
+  groupWidget->setMaximumHeight(
+    SoSizeRules::toQtSize(fixedHeight.getValue() ? height.getValue() : maxHeight.getValue()));
+  componentLayout->addWidget(componentWidget, 0);
+  componentLayout->addItem(layoutSpacer);
+}
+
+void SoDialogGroup::destroyWidget()
+{
+  for (int i = 0; i < numChildren; ++i)
+    if (SoDialogComponent* child = getComponent(i))
+      child->destroyWidget();
+  SoDialogComponent::destroyWidget();
+  groupWidget = nullptr;
+}
+
+void SoDialogGroup::addAuditor(SoDialogAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoDialogGroup::removeAuditor(SoDialogAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}
+
+void SoDialogGroup::applyAuditor(SoFormwright* control)
+{
+  const int count = getAuditorListLength();
+  for (int i = 0; i < count; ++i)
+    SoAuditorDispatch::applyDialogTests(static_cast<SoDialogAuditor*>(getAuditor(i)), control);
+  if (count > 0)
+    return;
+  if (parentNode)
+    parentNode->applyAuditor(control);
+  else if (defaultAuditor)
+    SoAuditorDispatch::applyDialogTests(defaultAuditor, control);
+}
+
+void SoDialogGroup::applyAuditors()
+{
+  childList().applyAuditors();
+}
+
+SoFormwright* SoDialogGroup::searchForAuditorId(SbString id)
+{
+  return childList().searchForAuditorId(id);
+}
+
+void SoDialogGroup::changeEnable()
+{
+  SoDialogComponent::changeEnable();
+  changeWidgetEnable(enable.getValue());
+}
+
+void SoDialogGroup::changeWidgetEnable(int enabled)
+{
+  // The group's value goes to every child, whatever the child's own field.
+  for (int i = 0; i < numChildren; ++i)
+    getComponent(i)->changeWidgetEnable(enabled ? enable.getValue() : 0);
+}
+
+void SoDialogGroup::resetSize()
+{
+  SoDialogComponent::resetSize();
+  for (int i = 0; i < numChildren; ++i)
+    getComponent(i)->resetSize();
+}
+
+void SoDialogGroup::getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
+{
+  SbVec2i32 defaults[3];
+  if (needsDefaultSize()) {
+    getDefaultSize(defaults[0], defaults[1], defaults[2]);
+    for (SbVec2i32& value : defaults)
+      fixSizeWithBorder(value, 1);
+  }
+  getSizeFromFields(defaults, size, min, max);
+}
+
+void SoDialogGroup::setLabelSize(SbVec2i32& size)
+{
+  SoDialogComponent::setLabelSize(size);
+  setChildrenLabelSize();
+}
+
+void SoDialogGroup::setComponentSize(SbVec2i32& size)
+{
+  SoDialogComponent::setComponentSize(size);
+  setChildrenComponentSize();
+}
+
+SbVec2i32 SoDialogGroup::getComponentInitSize()
+{
+  return SbVec2i32(0, 0);
+}
+
+SbVec2i32 SoDialogGroup::getLabelInitSize()
+{
+  return SbVec2i32(0, 0);
+}
+
+void SoDialogGroup::fixSizeWithBorder(SbVec2i32&, int) {}
+void SoDialogGroup::setChildrenComponentSize() {}
+void SoDialogGroup::setChildrenLabelSize() {}
+
+void SoDialogGroup::updateChildrenSizeDB()
+{
+  sizeTable.resize(numChildren);
+}
+
+void SoDialogGroup::updateChildren()
+{
+  const int mode = SoFormMode::buildMode();
+  for (int i = 0; i < numChildren; ++i) {
+    SbVec2i32 useSize(0, 0), size(0, 0);
+    getComponent(i)->buildWidget(componentWidget, useSize, size, mode);
+  }
+}
+
+void SoDialogGroup::updateAfterSceneGraphChange()
+{
+  if (windowResizedByChildren.getValue()) {
+    SbVec2i32 size, min, max;
+    getDefaultState(size, min, max);
+    width = size[0];
+    height = size[1];
+    minWidth = min[0];
+    minHeight = min[1];
+    maxWidth = max[0];
+    maxHeight = max[1];
+  }
+  sizeTable.clear();
+  componentInitSize.setValue(-1, -1);
+  labelInitSize.setValue(0, 0);
+  labelSize.setValue(0, 0);
+  componentSize.setValue(0, 0);
+  if (!parentNode || !parentNode->canBeTraversed())
+    return;
+  if (parentNode->isOfType(SoTopLevelDialog::getClassTypeId()))
+    static_cast<SoTopLevelDialog*>(parentNode)->updateAfterSceneGraphChange();
+  else if (parentNode->isOfType(SoDialogGroup::getClassTypeId()))
+    static_cast<SoDialogGroup*>(parentNode)->updateAfterSceneGraphChange();
+}
+
+SbVec2i32 SoDialogGroup::stackedComponentInitSize(int axis, int32_t spacing)
+{
+  if (componentInitSize[0] != -1)
+    return componentInitSize;
+  const int across = 1 - axis;
+  SbVec2i32 result(2 * margin.getValue(), 2 * margin.getValue());
+  for (int i = 0; i < numChildren; ++i) {
+    // A separator lies across the direction in which the children stack.
+    if (getComponent(i)->isOfType(SoDialogSeparator::getClassTypeId()))
+      static_cast<SoDialogSeparator*>(getComponent(i))->setOrientationHorz(axis);
+    const SbVec2i32 child = getComponent(i)->getComponentInitSize();
+    // Across the stacking axis the margin counts towards the widest child,
+    // not on top of it.
+    result[across] = std::max(result[across], child[across]);
+    result[axis] += child[axis];
+  }
+  result[axis] += (numChildren - 1) * spacing;
+  componentInitSize = result;
+  return componentInitSize;
+}
+
+void SoDialogGroup::stackedDefaultSize(int axis, int32_t spacing, SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
+{
+  SoSizeRules::StackedSizes stacked(axis);
+  if (numChildren == 0)
+    stacked.setUnlimitedMaximum();
+  for (int i = 0; i < numChildren; ++i) {
+    SbVec2i32 s(0, 0), m(0, 0), x(0, 0);
+    getComponent(i)->getSize(s, m, x);
+    updateChildrenSizeDB();
+    sizeTable.set(i, s, m, x);
+    stacked.add(s, m, x);
+  }
+  stacked.result(2 * margin.getValue(), (numChildren - 1) * spacing, size, min, max);
+}
+
+void SoDialogGroup::buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode,
+                                 QBoxLayout* (*makeLayout)(QWidget*), const char* layoutName, int32_t spacing)
+{
+  if (sizeTable.sizeTableLength != numChildren)
+    updateChildrenSizeDB();
+  bool firstWidgetBuild = false;
+  if (mode != 0) {
+    firstWidgetBuild = componentWidget == nullptr;
+    if (!existWidget(componentWidget)) {
+      SoDialogGroup::buildWidget(parent, useSize, size, mode);
+      // From now on the children go into the frame's own layout; the outer
+      // one stays in Qt's tree.
+      componentLayout = makeLayout(componentWidget);
+      componentLayout->setObjectName(layoutName);
+      componentLayout->setContentsMargins(0, 0, 0, 0);
+      componentLayout->setSpacing(0);
+      changeEdgeStyle();
+      componentLayout->setSpacing(spacing);
+    }
+    updateChildren();
+  } else {
+    SoDialogGroup::buildWidget(parent, useSize, size, mode);
+  }
+  if (firstWidgetBuild)
+    changeWidgetEnable(enable.getValue());
+}
+
+void SoDialogGroup::addFrameAllowance(SbVec2i32& size, int sign) const
+{
+  // The frame takes 6 pixels whatever its edge style.
+  for (int axis = 0; axis < 2; ++axis)
+    size[axis] = sign == 1 ? SoSizeRules::saturatingAdd(size[axis], 6) : size[axis] + sign * 6;
+}
+
+void SoDialogGroup::setFrameMargins()
+{
+  const int margin = edgeStyle.getValue() != NONE ? 3 : 0;
+  componentLayout->setContentsMargins(margin, margin, margin, margin);
+}
+
+void SoDialogGroup::computeNewChildrenSize(int axis, SbVec2i32& newSize)
+{
+  SbVec2i32 size, min, max;
+  getDefaultSize(size, min, max);
+  sizeTable.distribute(axis, newSize[axis] - size[axis]);
 }
 
 SoFormwrightChildren<SoDialogGroup, SoDialogComponent> SoDialogGroup::childList() const

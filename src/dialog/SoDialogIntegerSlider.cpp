@@ -1,5 +1,7 @@
 #include <SoDialogIntegerSlider.h>
 
+#include <SoDialogIntegerSliderAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoDialogIntegerSlider, SoDialogSlider, "DialogIntegerSlider")
@@ -11,3 +13,13 @@ SoDialogIntegerSlider::SoDialogIntegerSlider()
 }
 
 SoDialogIntegerSlider::~SoDialogIntegerSlider() = default;
+
+void SoDialogIntegerSlider::addAuditor(SoDialogIntegerSliderAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoDialogIntegerSlider::removeAuditor(SoDialogIntegerSliderAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

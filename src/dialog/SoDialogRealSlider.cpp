@@ -1,5 +1,7 @@
 #include <SoDialogRealSlider.h>
 
+#include <SoDialogRealSliderAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoDialogRealSlider, SoDialogSlider, "DialogRealSlider")
@@ -11,3 +13,13 @@ SoDialogRealSlider::SoDialogRealSlider()
 }
 
 SoDialogRealSlider::~SoDialogRealSlider() = default;
+
+void SoDialogRealSlider::addAuditor(SoDialogRealSliderAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoDialogRealSlider::removeAuditor(SoDialogRealSliderAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

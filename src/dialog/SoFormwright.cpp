@@ -7,6 +7,7 @@
 #include <SoTopLevelDialog.h>
 
 #include "ScInitModuleCmd.h"
+#include "SoControlWidgets.h"
 #include "SoFormwrightFile.h"
 #include "SoFormwrightClassList.h"
 #include "SoFormwrightSubNodeSource.h"
@@ -448,7 +449,7 @@ SbVec2i32 SoFormwright::getLabelPixelSize(SbString text, SoFormwright* node)
       lines = 1;
   }
   const QFontMetrics metrics(s_dialogFont);
-  const QString whole = QString::fromLatin1(converted.getString());
+  const QString whole = SoControlWidgets::toWidgetText(converted);
   if (lines == 1)
     return SbVec2i32(metrics.horizontalAdvance(whole) + 3, metrics.height() + 3);
   int maxWidth = 0;

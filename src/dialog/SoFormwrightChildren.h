@@ -6,6 +6,7 @@
 // and in the class named by their messages, so both use this one template.
 // `Owner` declares it a friend.
 
+#include <SoDialogGroup.h>
 #include <SoFormwright.h>
 
 #include "SoDBImpl.h"
@@ -23,19 +24,19 @@ class SoFormwrightChildren {
 public:
   SoFormwrightChildren(Owner& owner, const char* className) : m_owner(owner), m_className(className) {}
 
-  bool insert(Child* child, int index, const char* operation) const
+  void insert(Child* child, int index, const char* operation) const
   {
     if (!isChild(child, operation))
-      return false;
+      return;
     if (index < 0 || index > m_owner.numChildren) {
       SoDebugError::post(source(operation).c_str(), "Index %d is out of range %d - %d", index, 0,
                          m_owner.numChildren);
-      return false;
+      return;
     }
     m_owner.children->insert(child, index);
     ++m_owner.numChildren;
     child->setParent(&m_owner);
-    return true;
+    changed();
   }
 
   SoNode* get(int index) const
@@ -50,15 +51,15 @@ public:
 
   int find(const SoNode* child) const { return m_owner.children->find(const_cast<SoNode*>(child)); }
 
-  bool remove(int index, const char* operation = "removeChild") const
+  void remove(int index) const
   {
-    if (!inRange(index, operation))
-      return false;
+    if (!inRange(index, "removeChild"))
+      return;
     if (auto* child = static_cast<Child*>((*m_owner.children)[index]))
       child->destroyWidget();
     --m_owner.numChildren;
     m_owner.children->remove(index);
-    return true;
+    changed();
   }
 
   // Only the children go; the kit's parts behind them stay.
@@ -69,16 +70,44 @@ public:
       m_owner.children->remove(i);
     }
     m_owner.numChildren = 0;
+    changed();
   }
 
-  bool replace(int index, Child* child) const
+  void replace(int index, Child* child) const
   {
     if (!isChild(child, "replaceChild") || !inRange(index, "replaceChild"))
-      return false;
+      return;
     static_cast<Child*>((*m_owner.children)[index])->destroyWidget();
     m_owner.children->set(index, child);
     child->setParent(&m_owner);
-    return true;
+    changed();
+  }
+
+  // Lets the owner's auditors hear of every control below it at once. A
+  // control's own auditors are passed by: the event starts at the owner.
+  void applyAuditors() const
+  {
+    for (int i = 0; i < m_owner.numChildren; ++i) {
+      auto* child = static_cast<SoFormwright*>((*m_owner.children)[i]);
+      if (child->isOfType(SoDialogGroup::getClassTypeId()))
+        static_cast<SoDialogGroup*>(child)->applyAuditors();
+      else
+        m_owner.applyAuditor(child);
+    }
+  }
+
+  // Depth first, the first node below the owner whose auditorID is `id`.
+  SoFormwright* searchForAuditorId(const SbString& id) const
+  {
+    for (int i = 0; i < m_owner.numChildren; ++i) {
+      auto* child = static_cast<SoFormwright*>((*m_owner.children)[i]);
+      if (child->auditorID.getValue() == id)
+        return child;
+      if (child->isOfType(SoDialogGroup::getClassTypeId()))
+        if (SoFormwright* found = static_cast<SoDialogGroup*>(child)->searchForAuditorId(id))
+          return found;
+    }
+    return nullptr;
   }
 
   // Reads the owner's fields and then its children. Notification stays off
@@ -176,6 +205,13 @@ public:
   }
 
 private:
+  // A change of a built tree is negotiated and built again from the window.
+  void changed() const
+  {
+    if (!m_owner.firstBuild)
+      m_owner.updateAfterSceneGraphChange();
+  }
+
   std::string source(const char* operation) const { return std::string(m_className) + "::" + operation; }
 
   bool isChild(const Child* child, const char* operation) const

@@ -1,5 +1,7 @@
 #include <SoMenuCheckBox.h>
 
+#include <SoMenuCheckBoxAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoMenuCheckBox, SoMenuItem, "MenuCheckBox")
@@ -11,3 +13,13 @@ SoMenuCheckBox::SoMenuCheckBox()
 }
 
 SoMenuCheckBox::~SoMenuCheckBox() = default;
+
+void SoMenuCheckBox::addAuditor(SoMenuCheckBoxAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoMenuCheckBox::removeAuditor(SoMenuCheckBoxAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

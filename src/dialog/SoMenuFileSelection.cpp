@@ -1,5 +1,7 @@
 #include <SoMenuFileSelection.h>
 
+#include <SoMenuFileSelectionAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoMenuFileSelection, SoMenuPushButton, "MenuFileSelection")
@@ -11,3 +13,13 @@ SoMenuFileSelection::SoMenuFileSelection()
 }
 
 SoMenuFileSelection::~SoMenuFileSelection() = default;
+
+void SoMenuFileSelection::addAuditor(SoMenuFileSelectionAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoMenuFileSelection::removeAuditor(SoMenuFileSelectionAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

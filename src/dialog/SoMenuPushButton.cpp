@@ -1,5 +1,7 @@
 #include <SoMenuPushButton.h>
 
+#include <SoMenuPushButtonAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoMenuPushButton, SoMenuItem, "MenuPushButton")
@@ -11,3 +13,13 @@ SoMenuPushButton::SoMenuPushButton()
 }
 
 SoMenuPushButton::~SoMenuPushButton() = default;
+
+void SoMenuPushButton::addAuditor(SoMenuPushButtonAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoMenuPushButton::removeAuditor(SoMenuPushButtonAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

@@ -1,5 +1,7 @@
 #include <SoMenuRadioButtons.h>
 
+#include <SoMenuRadioButtonsAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoMenuRadioButtons, SoMenuItem, "MenuRadioButtons")
@@ -11,3 +13,13 @@ SoMenuRadioButtons::SoMenuRadioButtons()
 }
 
 SoMenuRadioButtons::~SoMenuRadioButtons() = default;
+
+void SoMenuRadioButtons::addAuditor(SoMenuRadioButtonsAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoMenuRadioButtons::removeAuditor(SoMenuRadioButtonsAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

@@ -1,5 +1,7 @@
 #include <SoTabDialog.h>
 
+#include <SoTabDialogAuditor.h>
+
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoTabDialog, SoDialogGroup, "TabDialog")
@@ -11,3 +13,13 @@ SoTabDialog::SoTabDialog()
 }
 
 SoTabDialog::~SoTabDialog() = default;
+
+void SoTabDialog::addAuditor(SoTabDialogAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoTabDialog::removeAuditor(SoTabDialogAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+// What the controls share in handling their Qt widgets: the text and
+// alignment that the widgets take, the places of a control's pieces in its
+// frame, and the end of a frame widget.
+
+#include <SoFormwright.h>
+
+#include <Inventor/SbString.h>
+
+#include <QRect>
+#include <QString>
+#include <QWidget>
+
+#include <cstdint>
+
+namespace SoControlWidgets {
+
+// Field text is read from dialog files as UTF-8 bytes; it is shown and
+// measured alike.
+inline QString toWidgetText(const SbString& text)
+{
+  return QString::fromUtf8(text.getString());
+}
+
+// Only the horizontal part: the vertical place is the control's to choose.
+inline Qt::Alignment toWidgetAlignment(int labelAlignment)
+{
+  if (labelAlignment == SoFormwright::RIGHT)
+    return Qt::AlignRight;
+  if (labelAlignment == SoFormwright::CENTER)
+    return Qt::AlignHCenter;
+  return Qt::AlignLeft;
+}
+
+// The label at the left of a control, as wide as the label column and
+// centred on the frame's height. A text taller than the frame starts above
+// the frame's margin: nothing clamps it.
+inline QRect sideLabelPlace(int32_t frameHeight, int32_t labelColumnWidth, int32_t textHeight)
+{
+  return QRect(3, 3 + (frameHeight - 3 - textHeight) / 2, labelColumnWidth, textHeight);
+}
+
+// The body of a labelled control: beside the label column, or across the
+// frame when the label is hidden.
+inline QRect bodyPlace(int32_t frameWidth, int32_t frameHeight, int32_t labelColumnWidth, bool labelVisible)
+{
+  if (labelVisible)
+    return QRect(labelColumnWidth + 4, 3, frameWidth - 6 - (labelColumnWidth + 2), frameHeight - 6);
+  return QRect(2, 3, frameWidth - 6, frameHeight - 6);
+}
+
+// Deletes a control's own frame widget, which is also its component widget:
+// the component must not delete it a second time.
+template <class Frame>
+void deleteFrameWidget(Frame*& frame, QWidget*& componentWidget)
+{
+  if (componentWidget == frame)
+    componentWidget = nullptr;
+  delete frame;
+  frame = nullptr;
+}
+
+}

@@ -1,0 +1,179 @@
+#include "TestSupport.h"
+
+#include <SoColumnDialog.h>
+#include <SoDialogAuditor.h>
+#include <SoDialogCheckBox.h>
+#include <SoDialogLabel.h>
+#include <SoDialogPushButton.h>
+#include <SoDialogPushButtonAuditor.h>
+#include <SoRowDialog.h>
+#include <SoTopLevelDialog.h>
+
+#include "SoPreferences.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QPushButton>
+#include <QTest>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+// Writes down every control it hears of, with its name and the state of the
+// control at that moment.
+class Recorder : public SoDialogAuditor {
+public:
+  Recorder(std::vector<std::string>& log, const char* name) : m_log(log), m_name(name) {}
+  void dialogPushButton(SoDialogPushButton* node) override { note("button", node); }
+  void dialogCheckBox(SoDialogCheckBox* node) override
+  {
+    note(node->state.getValue() ? "checked" : "unchecked", node);
+  }
+
+private:
+  void note(const char* what, SoFormwright* node)
+  {
+    m_log.push_back(m_name + ":" + what + ":" + node->auditorID.getValue().getString());
+  }
+  std::vector<std::string>& m_log;
+  std::string m_name;
+};
+
+class ButtonRecorder : public SoDialogPushButtonAuditor {
+public:
+  explicit ButtonRecorder(std::vector<std::string>& log) : m_log(log) {}
+  void dialogPushButton(SoDialogPushButton* node) override
+  {
+    m_log.push_back(std::string("own:") + node->auditorID.getValue().getString());
+  }
+
+private:
+  std::vector<std::string>& m_log;
+};
+
+const char* const kDialog = R"(#Inventor V2.1 ascii
+TopLevelDialog {
+  auditorID "window"
+  DialogLabel { label "Settings" }
+  ColumnDialog {
+    auditorID "outer"
+    RowDialog {
+      auditorID "inner"
+      DialogPushButton { buttonLabel "Apply" auditorID "apply" }
+      DialogCheckBox { label "Binary" auditorID "binary" }
+    }
+    DialogPushButton { buttonLabel "Close" auditorID "close" }
+  }
+}
+)";
+
+class AuditorRouting : public ::testing::Test {
+protected:
+  void SetUp() override
+  {
+    m_root = readScene(kDialog);
+    ASSERT_NE(m_root, nullptr);
+    dialog = static_cast<SoTopLevelDialog*>(m_root->getChild(0));
+    outer = static_cast<SoColumnDialog*>(dialog->searchForAuditorId("outer"));
+    inner = static_cast<SoRowDialog*>(dialog->searchForAuditorId("inner"));
+    apply = static_cast<SoDialogPushButton*>(dialog->searchForAuditorId("apply"));
+    binary = static_cast<SoDialogCheckBox*>(dialog->searchForAuditorId("binary"));
+    ASSERT_TRUE(outer && inner && apply && binary);
+  }
+
+  void build() { dialog->buildDialog(nullptr, 0); }
+
+  template <class Widget>
+  static Widget* widgetOf(SoDialogComponent* node)
+  {
+    return node->getWidget()->findChild<Widget*>();
+  }
+
+  SoSeparator* m_root = nullptr;
+  SoTopLevelDialog* dialog = nullptr;
+  SoColumnDialog* outer = nullptr;
+  SoRowDialog* inner = nullptr;
+  SoDialogPushButton* apply = nullptr;
+  SoDialogCheckBox* binary = nullptr;
+  std::vector<std::string> log;
+};
+
+TEST_F(AuditorRouting, pressClimbsTwoGroupsToTheWindowsAuditor)
+{
+  Recorder application(log, "window");
+  dialog->addAuditor(&application);
+  build();
+  QTest::mousePress(widgetOf<QPushButton>(apply), Qt::LeftButton);
+  EXPECT_EQ(log, std::vector<std::string>{"window:button:apply"});
+}
+
+TEST_F(AuditorRouting, groupAuditorsHearInOrderAndStopTheClimb)
+{
+  Recorder window(log, "window"), first(log, "first"), second(log, "second");
+  dialog->addAuditor(&window);
+  inner->addAuditor(&first);
+  inner->addAuditor(&second);
+  build();
+  QTest::mousePress(widgetOf<QPushButton>(apply), Qt::LeftButton);
+  EXPECT_EQ(log, (std::vector<std::string>{"first:button:apply", "second:button:apply"}));
+}
+
+TEST_F(AuditorRouting, controlWithItsOwnAuditorIsHeardByNoGroup)
+{
+  Recorder group(log, "group");
+  ButtonRecorder own(log);
+  outer->addAuditor(&group);
+  apply->addAuditor(&own);
+  build();
+  QTest::mousePress(widgetOf<QPushButton>(apply), Qt::LeftButton);
+  EXPECT_EQ(log, std::vector<std::string>{"own:apply"});
+
+  // Firing all at once starts at the group: the button's own auditor is
+  // passed by.
+  log.clear();
+  outer->applyAuditors();
+  EXPECT_EQ(log, (std::vector<std::string>{"group:button:apply", "group:unchecked:binary", "group:button:close"}));
+}
+
+TEST_F(AuditorRouting, checkBoxClickIsStoredBeforeTheAuditorsHear)
+{
+  Recorder application(log, "window");
+  dialog->addAuditor(&application);
+  build();
+  QCheckBox* box = widgetOf<QCheckBox>(binary);
+  QTest::mouseClick(box, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, box->height() / 2)); // on the box
+  EXPECT_EQ(log, std::vector<std::string>{"window:checked:binary"});
+  log.clear();
+  binary->state = FALSE;
+  EXPECT_TRUE(log.empty()) << "a change by the application is no event";
+  EXPECT_FALSE(widgetOf<QCheckBox>(binary)->isChecked());
+}
+
+TEST_F(AuditorRouting, unheardControlIsReportedByTheWindowsDefaultAuditor)
+{
+  build();
+  SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
+  DebugMessages messages;
+  QTest::mousePress(widgetOf<QPushButton>(apply), Qt::LeftButton);
+  SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
+  ASSERT_EQ(messages.count(), 1u);
+  EXPECT_TRUE(messages.contains("SoDialogAuditor::dialogPushButton"));
+  EXPECT_TRUE(messages.contains("WARNING ! The DialogAuditor does not define the SoDialogPushButton component :"
+                                "\n\t\t -> label \"\"\n\t\t -> buttonLabel \"Apply\""));
+}
+
+TEST_F(AuditorRouting, searchIsDepthFirstOverChildrenOnly)
+{
+  EXPECT_EQ(dialog->searchForAuditorId("window"), nullptr) << "the searching node itself is not compared";
+  EXPECT_EQ(dialog->searchForAuditorId("close")->getParent(), outer);
+  EXPECT_TRUE(dialog->searchForAuditorId("")->isOfType(SoDialogLabel::getClassTypeId()))
+    << "the first child whose identifier was left empty";
+  EXPECT_EQ(inner->searchForAuditorId("close"), nullptr);
+  EXPECT_EQ(dialog->searchForAuditorId("nothing"), nullptr);
+}
+
+}

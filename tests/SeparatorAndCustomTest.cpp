@@ -1,0 +1,187 @@
+#include "ControlTestSupport.h"
+#include "TestSupport.h"
+
+#include <SoDialogCustom.h>
+#include <SoDialogSeparator.h>
+
+#include <QFrame>
+#include <QLabel>
+#include <QPointer>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Custom : public SoDialogCustom {
+public:
+  using SoDialogCustom::buildMode;
+};
+
+QFrame* lineOf(const ControlWindow& window)
+{
+  return window.find<QFrame>("FWTSoDialogQSeparatorFrameWidget");
+}
+
+TEST(DialogSeparator, horizontalLineIsEightHighWithATwoPixelLineAtThree)
+{
+  ControlWindow window;
+  SoDialogSeparator* node = makeControl<SoDialogSeparator>();
+  node->width = 150;
+  node->height = 40;
+  window.build(node);
+
+  auto* frame = qobject_cast<QFrame*>(node->getWidget());
+  ASSERT_NE(frame, nullptr);
+  EXPECT_EQ(frame->objectName(), QString("FWTSoDialogQSeparatorFrame"));
+  EXPECT_EQ(frame->parentWidget(), &window.widget);
+  QFrame* line = lineOf(window);
+  ASSERT_NE(line, nullptr);
+  EXPECT_EQ(line->parentWidget(), frame);
+  EXPECT_EQ(line->frameShadow(), QFrame::Sunken);
+
+  EXPECT_EQ(node->height.getValue(), 8) << "the negotiated maximum holds the height";
+  EXPECT_EQ(node->maxHeight.getValue(), 8);
+  EXPECT_EQ(node->width.getValue(), 150);
+  EXPECT_EQ(frame->maximumHeight(), 8);
+  EXPECT_EQ(frame->minimumSize(), QSize(150, 8));
+  EXPECT_EQ(line->frameShape(), QFrame::HLine);
+  EXPECT_EQ(line->geometry(), QRect(3, 3, 144, 2));
+
+  resizeFrame(frame, 300, 8);
+  EXPECT_EQ(node->width.getValue(), 300);
+  EXPECT_EQ(line->geometry(), QRect(3, 3, 294, 2));
+}
+
+TEST(DialogSeparator, orientationShowsAtTheNextBuild)
+{
+  SoDialogSeparator* node = makeControl<SoDialogSeparator>();
+  SbVec2i32 size, min, max;
+  node->getSize(size, min, max);
+  EXPECT_EQ(size, SbVec2i32(0, 8));
+  EXPECT_EQ(min, SbVec2i32(0, 8));
+  EXPECT_EQ(max, SbVec2i32(32767, 8));
+
+  ControlWindow window;
+  node->height = 90;
+  window.build(node);
+  node->setOrientationHorz(0);
+  EXPECT_EQ(lineOf(window)->frameShape(), QFrame::HLine) << "turning is only stored";
+
+  // A rebuild by a window that its children size starts from the
+  // application's values again.
+  node->resetSize();
+  node->minWidth = node->minHeight = node->maxWidth = node->maxHeight = 0;
+  node->height = 90;
+  window.build(node);
+  EXPECT_EQ(node->width.getValue(), 8);
+  EXPECT_EQ(node->height.getValue(), 90);
+  EXPECT_EQ(node->getWidget()->maximumWidth(), 8);
+  EXPECT_EQ(lineOf(window)->frameShape(), QFrame::VLine);
+  EXPECT_EQ(lineOf(window)->geometry(), QRect(3, 3, 2, 84));
+
+  SoDialogSeparator* other = makeControl<SoDialogSeparator>();
+  other->setOrientationHorz(0);
+  other->getSize(size, min, max);
+  EXPECT_EQ(size, SbVec2i32(8, 0));
+  EXPECT_EQ(min, SbVec2i32(8, 0));
+  EXPECT_EQ(max, SbVec2i32(8, 32767));
+}
+
+TEST(DialogSeparator, fixedAxesAreHeldByTheMaximum)
+{
+  ControlWindow window;
+  SoDialogSeparator* node = makeControl<SoDialogSeparator>();
+  node->fixedWidth = TRUE;
+  node->width = 70;
+  window.build(node);
+  EXPECT_EQ(node->getWidget()->maximumWidth(), 70);
+}
+
+TEST(DialogSeparator, destroyWidgetDeletesTheBridgeOnce)
+{
+  ControlWindow window;
+  SoDialogSeparator* node = makeControl<SoDialogSeparator>();
+  window.build(node);
+  window.build(node);
+  EXPECT_EQ(window.widget.findChildren<QFrame*>("FWTSoDialogQSeparatorFrame").size(), 1);
+  QPointer<QWidget> frame = node->getWidget();
+  node->destroyWidget();
+  EXPECT_TRUE(frame.isNull());
+  EXPECT_EQ(node->getWidget(), nullptr);
+  window.build(node);
+  EXPECT_EQ(window.widget.findChildren<QFrame*>("FWTSoDialogQSeparatorFrame").size(), 1);
+
+  SoSeparator* root = readScene("#Inventor V2.1 ascii\nDialogSeparator { width 20 }\n");
+  ASSERT_NE(root, nullptr);
+  EXPECT_TRUE(root->getChild(0)->isOfType(SoDialogSeparator::getClassTypeId()));
+  root->unref();
+}
+
+TEST(DialogCustom, givesTheApplicationAFrameWithALayout)
+{
+  ControlWindow window;
+  Custom* node = makeControl<Custom>();
+  node->width = 160;
+  node->height = 60;
+  node->maxHeight = 200;
+  node->edgeStyle = SoDialogComponent::SHADOW_IN;
+  window.build(node);
+
+  auto* frame = qobject_cast<QFrame*>(node->getWidget());
+  ASSERT_NE(frame, nullptr);
+  EXPECT_NE(static_cast<QWidget*>(frame), &window.widget);
+  EXPECT_EQ(frame->parentWidget(), &window.widget);
+  EXPECT_EQ(frame->minimumSize(), QSize(160, 60));
+  EXPECT_EQ(frame->maximumSize(), QSize(32767, 200));
+  EXPECT_EQ(frame->frameShape(), QFrame::StyledPanel) << "the edge is drawn from the start";
+  EXPECT_EQ(frame->frameShadow(), QFrame::Sunken);
+
+  auto* layout = static_cast<QBoxLayout*>(node->getLayout());
+  ASSERT_NE(qobject_cast<QHBoxLayout*>(layout), nullptr);
+  EXPECT_EQ(layout->objectName(), QString("FWTSoDialogQCustomLayout"));
+  EXPECT_EQ(layout->parentWidget(), frame);
+  EXPECT_EQ(layout->contentsMargins(), QMargins(0, 0, 0, 0));
+  EXPECT_EQ(layout->spacing(), 0);
+
+  auto* own = new QLabel("application's widget");
+  layout->addWidget(own);
+  EXPECT_EQ(own->parentWidget(), frame);
+
+  window.build(node);
+  EXPECT_EQ(node->getWidget(), frame) << "a second build keeps the frame and what it holds";
+  EXPECT_EQ(own->parentWidget(), frame);
+}
+
+TEST(DialogCustom, fixedAxesUseTheSizeAsTheMaximum)
+{
+  ControlWindow window;
+  Custom* node = makeControl<Custom>();
+  node->fixedWidth = TRUE;
+  node->fixedHeight = TRUE;
+  node->width = 90;
+  node->height = 40;
+  window.build(node);
+  EXPECT_EQ(node->getWidget()->maximumSize(), QSize(90, 40));
+}
+
+TEST(DialogCustom, destroyWidgetDeletesTheFrameOnceAndTheSceneFormMakesNone)
+{
+  ControlWindow window;
+  Custom* node = makeControl<Custom>();
+  window.build(node);
+  QPointer<QWidget> frame = node->getWidget();
+  node->destroyWidget();
+  EXPECT_TRUE(frame.isNull());
+  EXPECT_EQ(node->getWidget(), nullptr);
+  EXPECT_EQ(node->getLayout(), nullptr) << "the layout went with the frame";
+  EXPECT_EQ(node->buildMode, 0);
+  window.build(node);
+  ASSERT_NE(node->getWidget(), nullptr);
+  EXPECT_EQ(static_cast<QBoxLayout*>(node->getLayout())->parentWidget(), node->getWidget());
+
+  Custom* inScene = makeControl<Custom>();
+  window.build(inScene, 0);
+  EXPECT_EQ(inScene->getWidget(), nullptr);
+  EXPECT_EQ(inScene->getLayout(), nullptr);
+}
+
+}
