@@ -1,0 +1,178 @@
+// Opens a dialog file, shows the dialog and prints one line for every action
+// of the user. With no file it opens a built-in dialog that shows every
+// control. Without a display it renders the dialog to a PNG file and exits.
+//
+//   formwright-preview [FILE] [--id AUDITOR_ID] [--screenshot PNG] [--list]
+
+#include "PreviewAuditor.h"
+#include "ShowcaseDialog.h"
+
+#include <SoDialogComponent.h>
+#include <SoDialogGroup.h>
+#include <SoFormwright.h>
+#include <SoQt.h>
+#include <SoTopLevelDialog.h>
+
+#include <Inventor/SoDB.h>
+#include <Inventor/SoInput.h>
+#include <Inventor/nodes/SoSeparator.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QWidget>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+const char* const kDefaultScreenshot = "formwright-preview.png";
+
+bool hasDisplay()
+{
+  return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY");
+}
+
+// Whether Qt draws to no screen at all, so that a shown dialog would be seen
+// by no one.
+bool drawsOffScreen()
+{
+  return QApplication::platformName() == "offscreen" || QApplication::platformName() == "minimal";
+}
+
+int fail(const QString& message)
+{
+  std::fprintf(stderr, "formwright-preview: %s\n", message.toLocal8Bit().constData());
+  return 1;
+}
+
+// The interface node at the top of the built-in dialog, found as a dialog
+// file's would be.
+SoFormwright* loadShowcase(const SbString& auditorId)
+{
+  SoInput input;
+  input.setBuffer(kShowcaseDialog, std::strlen(kShowcaseDialog));
+  SoSeparator* root = SoDB::readAll(&input);
+  if (!root)
+    return nullptr;
+  root->ref(); // kept for the life of the program
+  for (int i = 0; i < root->getNumChildren(); ++i) {
+    SoNode* child = root->getChild(i);
+    if (child->isOfType(SoFormwright::getClassTypeId()) &&
+        (auditorId.getLength() == 0 || static_cast<SoFormwright*>(child)->auditorID.getValue() == auditorId))
+      return static_cast<SoFormwright*>(child);
+  }
+  return nullptr;
+}
+
+// The children of a window or group, for walking the tree.
+int childCount(SoFormwright* node)
+{
+  if (node->isOfType(SoTopLevelDialog::getClassTypeId()))
+    return static_cast<SoTopLevelDialog*>(node)->getNumChildren();
+  if (node->isOfType(SoDialogGroup::getClassTypeId()))
+    return static_cast<SoDialogGroup*>(node)->getNumChildren();
+  return 0;
+}
+
+SoFormwright* childAt(SoFormwright* node, int index)
+{
+  SoNode* child = node->isOfType(SoTopLevelDialog::getClassTypeId())
+                    ? static_cast<SoTopLevelDialog*>(node)->getChild(index)
+                    : static_cast<SoDialogGroup*>(node)->getChild(index);
+  return static_cast<SoFormwright*>(child);
+}
+
+void printTree(SoFormwright* node, int depth)
+{
+  std::printf("%*s%s \"%s\"\n", depth * 2, "", node->getTypeId().getName().getString(),
+              node->auditorID.getValue().getString());
+  for (int i = 0; i < childCount(node); ++i)
+    printTree(childAt(node, i), depth + 1);
+}
+
+int run(const QCommandLineParser& options)
+{
+  const QStringList files = options.positionalArguments();
+  const SbString auditorId(options.value("id").toUtf8().constData());
+  SoFormwright* node = nullptr;
+  QString source = "the built-in dialog";
+  if (files.isEmpty()) {
+    node = loadShowcase(auditorId);
+  } else {
+    source = files.first();
+    if (!QFileInfo(source).isReadable())
+      return fail(QString("cannot read %1").arg(source));
+    node = SoFormwright::loadFromFile(SbString(source.toLocal8Bit().constData()), auditorId);
+  }
+  if (!node) {
+    if (auditorId.getLength() > 0)
+      return fail(QString("no dialog with auditorID \"%1\" in %2").arg(options.value("id"), source));
+    return fail(QString("no dialog could be read from %1").arg(source));
+  }
+
+  if (options.isSet("list")) {
+    printTree(node, 0);
+    return 0;
+  }
+
+  SoTopLevelDialog* dialog = nullptr;
+  if (node->isOfType(SoTopLevelDialog::getClassTypeId())) {
+    dialog = static_cast<SoTopLevelDialog*>(node);
+  } else if (node->isOfType(SoDialogComponent::getClassTypeId())) {
+    // A component on its own is shown in a window made for it.
+    dialog = new SoTopLevelDialog;
+    dialog->ref();
+    dialog->label = node->auditorID.getValue();
+    dialog->addChild(static_cast<SoDialogComponent*>(node));
+  } else {
+    return fail(QString("the node found in %1 is not a dialog or a component").arg(source));
+  }
+
+  PreviewAuditor auditor(stdout);
+  dialog->addAuditor(&auditor);
+  dialog->buildDialog(nullptr, 0);
+  dialog->show();
+
+  QString screenshot = options.value("screenshot");
+  if (screenshot.isEmpty() && drawsOffScreen())
+    screenshot = kDefaultScreenshot;
+  if (screenshot.isEmpty())
+    return QApplication::exec();
+
+  QApplication::processEvents();
+  if (!dialog->getBaseWidget()->grab().save(screenshot, "PNG"))
+    return fail(QString("cannot write %1").arg(screenshot));
+  std::printf("wrote %s\n", screenshot.toLocal8Bit().constData());
+  return 0;
+}
+
+}
+
+int main(int argc, char** argv)
+{
+  // Without a display the dialog can still be rendered, off screen.
+  if (!hasDisplay() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("formwright-preview");
+
+  QCommandLineParser options;
+  options.setApplicationDescription("Shows a dialog file and prints what the user does with it.");
+  options.addHelpOption();
+  options.addPositionalArgument("file", "Dialog file to open; the built-in dialog if none.", "[FILE]");
+  options.addOption({"id", "Open the node with this auditorID.", "AUDITOR_ID"});
+  options.addOption({"screenshot", "Render the dialog to this PNG file and exit.", "PNG"});
+  options.addOption({"list", "Print the tree of auditor identifiers and exit."});
+  options.process(application);
+
+  SoQt::init(nullptr);
+  SoFormwright::init();
+  const int status = run(options);
+  std::fflush(stdout);
+  // The process ends here; the dialog's widgets go with it.
+  std::_Exit(status);
+}

@@ -1,0 +1,103 @@
+#include "TestSupport.h"
+
+#include <SoTopLevelDialog.h>
+
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct PreviewRun {
+  int status;
+  QString out;
+  QString err;
+};
+
+// As on a machine with no display.
+void startHeadless(QProcess& process, const QStringList& arguments)
+{
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.remove("DISPLAY");
+  environment.remove("WAYLAND_DISPLAY");
+  environment.remove("QT_QPA_PLATFORM");
+  process.setProcessEnvironment(environment);
+  process.start(FORMWRIGHT_PREVIEW, arguments);
+}
+
+PreviewRun preview(const QStringList& arguments)
+{
+  QProcess process;
+  startHeadless(process, arguments);
+  EXPECT_TRUE(process.waitForFinished(30000));
+  return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput()),
+          QString::fromLocal8Bit(process.readAllStandardError())};
+}
+
+const QString kExport = QString(FORMWRIGHT_EXAMPLES) + "/export.scn";
+
+TEST(Preview, screenshotHasTheSizeOfTheNegotiatedDialog)
+{
+  QTemporaryDir dir;
+  const QString png = dir.filePath("export.png");
+  const PreviewRun run = preview({kExport, "--screenshot", png});
+  ASSERT_EQ(run.status, 0) << run.err.toStdString();
+  QImage image(png);
+  ASSERT_FALSE(image.isNull());
+
+  auto* dialog = static_cast<SoTopLevelDialog*>(
+    SoFormwright::loadFromFile(SbString(kExport.toLocal8Bit().constData()), "exportDialog"));
+  ASSERT_NE(dialog, nullptr);
+  dialog->buildDialog(nullptr, 0);
+  EXPECT_EQ(image.size(), dialog->getBaseWidget()->size());
+  EXPECT_GT(image.width(), 50);
+}
+
+TEST(Preview, withoutAFileTheBuiltInDialogIsRenderedHeadless)
+{
+  QTemporaryDir dir;
+  QProcess process;
+  process.setWorkingDirectory(dir.path());
+  startHeadless(process, {});
+  ASSERT_TRUE(process.waitForFinished(30000));
+  EXPECT_EQ(process.exitCode(), 0);
+  EXPECT_FALSE(QImage(dir.filePath("formwright-preview.png")).isNull());
+}
+
+TEST(Preview, listPrintsTheTreeOfIdentifiers)
+{
+  const PreviewRun run = preview({kExport, "--list"});
+  ASSERT_EQ(run.status, 0);
+  EXPECT_TRUE(run.out.startsWith("TopLevelDialog \"exportDialog\"\n"));
+  EXPECT_TRUE(run.out.contains("\n  ColumnDialog \"\"\n    DialogPushButton \"go\"\n"));
+}
+
+TEST(Preview, badInputGivesOneLineAndStatusOne)
+{
+  QTemporaryDir dir;
+  const QString broken = dir.filePath("broken.scn");
+  QFile file(broken);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("#Inventor V2.1 ascii\nTopLevelDialog { DialogLabel { label \"x\" }\n");
+  file.close();
+
+  const struct {
+    QStringList arguments;
+    const char* line;
+  } cases[] = {
+    {{dir.filePath("missing.scn")}, "formwright-preview: cannot read "},
+    {{broken}, "formwright-preview: "},
+    {{kExport, "--id", "nothing"}, "formwright-preview: no dialog with auditorID \"nothing\" in "},
+  };
+  for (const auto& c : cases) {
+    const PreviewRun run = preview(c.arguments);
+    EXPECT_EQ(run.status, 1) << c.line;
+    const QStringList own = run.err.split('\n').filter("formwright-preview:");
+    ASSERT_EQ(own.size(), 1) << run.err.toStdString();
+    EXPECT_TRUE(own.first().startsWith(c.line)) << own.first().toStdString();
+  }
+}
+
+}
