@@ -175,28 +175,8 @@ void SoDialogComponent::setSize(int w, int h, int minW, int minH, int maxW, int 
 
 void SoDialogComponent::setDefaultState()
 {
-  // Computed sizes are not the application's and must not be written back
-  // to a file.
-  if (defaultSize[0] == 0)
-    width.setDefault(TRUE);
-  if (defaultSize[1] == 0)
-    height.setDefault(TRUE);
-  if (defaultMinSize[0] == 0)
-    minWidth.setDefault(TRUE);
-  if (defaultMinSize[1] == 0)
-    minHeight.setDefault(TRUE);
-  if (defaultMaxSize[0] == 0 || maxWidth.getValue() == 32767)
-    maxWidth.setDefault(TRUE);
-  if (defaultMaxSize[1] == 0 || maxHeight.getValue() == 32767)
-    maxHeight.setDefault(TRUE);
-  if (fixedWidth.getValue()) {
-    minWidth.setDefault(TRUE);
-    maxWidth.setDefault(TRUE);
-  }
-  if (fixedHeight.getValue()) {
-    minHeight.setDefault(TRUE);
-    maxHeight.setDefault(TRUE);
-  }
+  SoSizeRules::markComputedSizes({width, height, minWidth, minHeight, maxWidth, maxHeight}, defaultSize, defaultMinSize,
+                                 defaultMaxSize, fixedWidth.getValue() != 0, fixedHeight.getValue() != 0);
 }
 
 void SoDialogComponent::getDefaultState(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)

@@ -5,6 +5,7 @@
 // saturate.
 
 #include <Inventor/SbVec2i32.h>
+#include <Inventor/fields/SoSFInt32.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -52,6 +53,37 @@ inline void clamp(SbVec2i32& size, const SbVec2i32& min, const SbVec2i32& max)
 {
   for (int axis = 0; axis < 2; ++axis)
     size[axis] = std::min(std::max(size[axis], min[axis]), max[axis]);
+}
+
+// The size fields of a window or component.
+struct SizeFields {
+  SoSFInt32& width;
+  SoSFInt32& height;
+  SoSFInt32& minWidth;
+  SoSFInt32& minHeight;
+  SoSFInt32& maxWidth;
+  SoSFInt32& maxHeight;
+};
+
+// Computed sizes are not the application's and must not be written back to
+// a file: each field whose value the application left to be computed (0 in
+// its own record, or an unlimited maximum) is marked as default, and so are
+// the limits of an axis pinned to the current size.
+inline void markComputedSizes(const SizeFields& fields, const SbVec2i32& ownSize, const SbVec2i32& ownMin,
+                              const SbVec2i32& ownMax, bool pinnedWidth, bool pinnedHeight)
+{
+  if (ownSize[0] == 0)
+    fields.width.setDefault(TRUE);
+  if (ownSize[1] == 0)
+    fields.height.setDefault(TRUE);
+  if (ownMin[0] == 0 || pinnedWidth)
+    fields.minWidth.setDefault(TRUE);
+  if (ownMin[1] == 0 || pinnedHeight)
+    fields.minHeight.setDefault(TRUE);
+  if (ownMax[0] == 0 || fields.maxWidth.getValue() == kUnlimited || pinnedWidth)
+    fields.maxWidth.setDefault(TRUE);
+  if (ownMax[1] == 0 || fields.maxHeight.getValue() == kUnlimited || pinnedHeight)
+    fields.maxHeight.setDefault(TRUE);
 }
 
 // The triple of children stacked along `axis` (1: one above the other, 0:

@@ -339,25 +339,8 @@ void SoTopLevelDialog::setSize(int w, int h, int minW, int minH, int maxW, int m
 
 void SoTopLevelDialog::setDefaultState()
 {
-  // Computed sizes are not the application's and are not written to a file.
-  if (defaultSize[0] == 0)
-    width.setDefault(TRUE);
-  if (defaultSize[1] == 0)
-    height.setDefault(TRUE);
-  if (defaultMinSize[0] == 0)
-    minWidth.setDefault(TRUE);
-  if (defaultMinSize[1] == 0)
-    minHeight.setDefault(TRUE);
-  if (defaultMaxSize[0] == 0 || maxWidth.getValue() == SoSizeRules::kUnlimited)
-    maxWidth.setDefault(TRUE);
-  if (defaultMaxSize[1] == 0 || maxHeight.getValue() == SoSizeRules::kUnlimited)
-    maxHeight.setDefault(TRUE);
-  if (!resizable.getValue()) {
-    minWidth.setDefault(TRUE);
-    minHeight.setDefault(TRUE);
-    maxWidth.setDefault(TRUE);
-    maxHeight.setDefault(TRUE);
-  }
+  SoSizeRules::markComputedSizes({width, height, minWidth, minHeight, maxWidth, maxHeight}, defaultSize, defaultMinSize,
+                                 defaultMaxSize, !resizable.getValue(), !resizable.getValue());
 }
 
 void SoTopLevelDialog::getDefaultState(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
