@@ -17,6 +17,7 @@
 class QWidget;
 class SbPList;
 class SoAuditor;
+class SoDialogAuditor;
 class SoField;
 class SoGetBoundingBoxAction;
 class SoGetMatrixAction;
@@ -154,6 +155,12 @@ protected:
     for (int i = 0; i < count; ++i)
       (static_cast<Auditor*>(getAuditor(i))->*operation)(node);
   }
+
+  // A container's general auditors hear of a control below it, each sorted
+  // by `tests`; a container with none passes the event to its parent or, at
+  // the top, to `fallback`.
+  void applyContainerAuditors(SoFormwright* control, void (*tests)(SoDialogAuditor*, SoFormwright*),
+                              SoDialogAuditor* fallback);
 
   static int existWidget(QWidget* widget);
   static void fieldChangedCB(void* data, SoSensor* sensor);

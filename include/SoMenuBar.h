@@ -9,6 +9,12 @@ class SoMenuBar : public SoTopComponent {
 public:
   SoMenuBar();
 
+  void addAuditor(SoDialogAuditor* auditor);
+  void removeAuditor(SoDialogAuditor* auditor);
+  // Sorts a menu entry below the menu to the menu's auditors, or passes it
+  // up. A menu has no default auditor.
+  void applyAuditor(SoFormwright* control) override;
+
 protected:
   ~SoMenuBar() override;
 };

@@ -6,6 +6,10 @@
 #include <SoDialogLabel.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogPushButtonAuditor.h>
+#include <SoMenuBar.h>
+#include <SoMenuCheckBox.h>
+#include <SoMenuFileSelection.h>
+#include <SoMenuPopup.h>
 #include <SoRowDialog.h>
 #include <SoTopLevelDialog.h>
 
@@ -33,6 +37,9 @@ public:
   {
     note(node->state.getValue() ? "checked" : "unchecked", node);
   }
+  void menuPushButton(SoMenuPushButton* node) override { note("menuButton", node); }
+  void menuFileSelection(SoMenuFileSelection* node) override { note("file", node); }
+  void menuCheckBox(SoMenuCheckBox* node) override { note("menuCheck", node); }
 
 private:
   void note(const char* what, SoFormwright* node)
@@ -174,6 +181,33 @@ TEST_F(AuditorRouting, searchIsDepthFirstOverChildrenOnly)
     << "the first child whose identifier was left empty";
   EXPECT_EQ(inner->searchForAuditorId("close"), nullptr);
   EXPECT_EQ(dialog->searchForAuditorId("nothing"), nullptr);
+}
+
+TEST(MenuAuditors, menusClimbToTheWindowWhichSortsEntriesByClass)
+{
+  std::vector<std::string> log;
+  auto* window = new SoTopLevelDialog;
+  auto* bar = new SoMenuBar;
+  auto* popup = new SoMenuPopup;
+  auto* file = new SoMenuFileSelection;
+  auto* check = new SoMenuCheckBox;
+  for (SoNode* node : {static_cast<SoNode*>(window), static_cast<SoNode*>(popup), static_cast<SoNode*>(file),
+                       static_cast<SoNode*>(check)})
+    node->ref();
+  window->addChild(bar);
+  popup->setParent(bar);
+  file->auditorID = "open";
+  check->auditorID = "grid";
+
+  Recorder atWindow(log, "window"), atPopup(log, "popup");
+  window->addAuditor(&atWindow);
+  popup->applyAuditor(file);
+  EXPECT_EQ(log, std::vector<std::string>{"window:file:open"}) << "a file selection is no plain menu button";
+
+  log.clear();
+  popup->addAuditor(&atPopup);
+  popup->applyAuditor(check);
+  EXPECT_EQ(log, std::vector<std::string>{"popup:menuCheck:grid"});
 }
 
 }

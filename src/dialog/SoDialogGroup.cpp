@@ -82,15 +82,7 @@ void SoDialogGroup::removeAuditor(SoDialogAuditor* auditor)
 
 void SoDialogGroup::applyAuditor(SoFormwright* control)
 {
-  const int count = getAuditorListLength();
-  for (int i = 0; i < count; ++i)
-    SoAuditorDispatch::applyDialogTests(static_cast<SoDialogAuditor*>(getAuditor(i)), control);
-  if (count > 0)
-    return;
-  if (parentNode)
-    parentNode->applyAuditor(control);
-  else if (defaultAuditor)
-    SoAuditorDispatch::applyDialogTests(defaultAuditor, control);
+  applyContainerAuditors(control, &SoAuditorDispatch::applyDialogTests, defaultAuditor);
 }
 
 void SoDialogGroup::applyAuditors()

@@ -1,6 +1,7 @@
 #include <SoFormwright.h>
 
 #include <SoAuditor.h>
+#include <SoDialogAuditor.h>
 #include <SoDialogComboBox.h>
 #include <SoDialogEditText.h>
 #include <SoDialogGroup.h>
@@ -291,6 +292,20 @@ SoAuditor*& SoFormwright::getAuditor(int index)
 int SoFormwright::getAuditorListLength() const
 {
   return auditorList ? auditorList->getLength() : 0;
+}
+
+void SoFormwright::applyContainerAuditors(SoFormwright* control, void (*tests)(SoDialogAuditor*, SoFormwright*),
+                                          SoDialogAuditor* fallback)
+{
+  const int count = getAuditorListLength();
+  for (int i = 0; i < count; ++i)
+    tests(static_cast<SoDialogAuditor*>(getAuditor(i)), control);
+  if (count > 0)
+    return;
+  if (parentNode)
+    parentNode->applyAuditor(control);
+  else if (fallback)
+    tests(fallback, control);
 }
 
 int SoFormwright::existWidget(QWidget* widget)

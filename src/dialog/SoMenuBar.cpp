@@ -1,5 +1,6 @@
 #include <SoMenuBar.h>
 
+#include "SoAuditorDispatch.h"
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoMenuBar, SoTopComponent, "MenuBar")
@@ -11,3 +12,18 @@ SoMenuBar::SoMenuBar()
 }
 
 SoMenuBar::~SoMenuBar() = default;
+
+void SoMenuBar::addAuditor(SoDialogAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoMenuBar::removeAuditor(SoDialogAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}
+
+void SoMenuBar::applyAuditor(SoFormwright* control)
+{
+  applyContainerAuditors(control, &SoAuditorDispatch::applyMenuTests, nullptr);
+}

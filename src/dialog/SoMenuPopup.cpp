@@ -1,5 +1,6 @@
 #include <SoMenuPopup.h>
 
+#include "SoAuditorDispatch.h"
 #include "SoFormwrightSubNodeSource.h"
 
 SO_FORMWRIGHT_SOURCE(SoMenuPopup, SoMenuItem, "MenuPopup")
@@ -11,3 +12,18 @@ SoMenuPopup::SoMenuPopup()
 }
 
 SoMenuPopup::~SoMenuPopup() = default;
+
+void SoMenuPopup::addAuditor(SoDialogAuditor* auditor)
+{
+  SoFormwright::addAuditor(auditor);
+}
+
+void SoMenuPopup::removeAuditor(SoDialogAuditor* auditor)
+{
+  SoFormwright::removeAuditor(auditor);
+}
+
+void SoMenuPopup::applyAuditor(SoFormwright* control)
+{
+  applyContainerAuditors(control, &SoAuditorDispatch::applyMenuTests, nullptr);
+}
