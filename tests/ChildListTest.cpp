@@ -108,8 +108,9 @@ TYPED_TEST(ChildList, misuseIsReportedAndChangesNothing)
   EXPECT_TRUE(messages.contains(this->source("replaceChild") + "(): NULL child node"));
   EXPECT_EQ(this->container->getChild(3), nullptr);
   EXPECT_TRUE(messages.contains(this->source("getChild") + "(): Index 3 is out of range 0 - 3; Be careful"));
+  EXPECT_EQ(this->container->getChild(-1), nullptr);
 
-  EXPECT_EQ(messages.count(), 9u);
+  EXPECT_EQ(messages.count(), 10u);
   EXPECT_EQ(this->order(), "012");
   EXPECT_EQ(this->labels[3]->getParent(), nullptr);
 }

@@ -41,7 +41,7 @@ public:
 
   SoNode* get(int index) const
   {
-    if (index >= m_owner.numChildren) {
+    if (index < 0 || index >= m_owner.numChildren) {
       SoDebugError::post(source("getChild").c_str(), "Index %d is out of range %d - %d; Be careful", index, 0,
                          m_owner.numChildren);
       return nullptr;
