@@ -43,6 +43,17 @@ bool drawsOffScreen()
   return QApplication::platformName() == "offscreen" || QApplication::platformName() == "minimal";
 }
 
+// Off screen, Qt notes each window feature that it cannot offer, and the
+// missing runtime folder of a session that has none: nothing a user of the
+// preview can act on.
+void quietOffScreenNotices(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+  if (type == QtWarningMsg && (message.startsWith("This plugin does not support") ||
+                               message.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")))
+    return;
+  std::fprintf(stderr, "%s\n", qFormatLogMessage(type, context, message).toLocal8Bit().constData());
+}
+
 int fail(const QString& message)
 {
   std::fprintf(stderr, "formwright-preview: %s\n", message.toLocal8Bit().constData());
@@ -157,6 +168,7 @@ int main(int argc, char** argv)
   // Without a display the dialog can still be rendered, off screen.
   if (!hasDisplay() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(quietOffScreenNotices);
   QApplication application(argc, argv);
   QApplication::setApplicationName("formwright-preview");
 
