@@ -6,6 +6,8 @@
 #include <SoRowDialog.h>
 #include <SoTopLevelDialog.h>
 
+#include "SoFormMode.h"
+
 #include <QBoxLayout>
 #include <QFontMetrics>
 #include <QFrame>
@@ -330,6 +332,23 @@ TEST(WindowLayout, groupPassesItsEnabledStateToEveryChild)
   row->enable = TRUE;
   EXPECT_EQ(on->enabledState, 1);
   EXPECT_EQ(off->enabledState, 1) << "the group's value wins over the child's own";
+}
+
+TEST(WindowLayout, sceneFormNegotiatesTheSameSizesAndMakesNoWidgets)
+{
+  auto* window = make<SoTopLevelDialog>();
+  window->margin = 4;
+  auto* row = make<SoRowDialog>();
+  row->addChild(makeSizedLeaf(100, 30));
+  row->addChild(makeSizedLeaf(80, 20));
+  window->addChild(row);
+  SoFormMode::setSceneForm(true);
+  window->buildDialog(nullptr, 0);
+  SoFormMode::setSceneForm(false);
+  EXPECT_EQ(window->getBaseWidget(), nullptr);
+  EXPECT_EQ(row->getWidget(), nullptr);
+  EXPECT_EQ(window->width.getValue(), 100 + 6 + 8);
+  EXPECT_EQ(window->height.getValue(), 30 + 20 + 6 + 8);
 }
 
 }

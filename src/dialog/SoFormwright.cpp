@@ -241,15 +241,23 @@ void SoFormwright::set3DCurrentActive(SoFormwright* node)
 
 void SoFormwright::create3DFormwright()
 {
-  // Text wrapping may have made it already.
+  // Builds in the scene form run this until a class's own create step marks
+  // the form as built, and text wrapping may have made the box action: only
+  // what is missing is made.
   if (!bboxAction)
     bboxAction = new SoGetBoundingBoxAction(SbViewportRegion());
-  searchAction = new SoSearchAction;
-  matrixAction = new SoGetMatrixAction(SbViewportRegion());
-  pickStyle = new SoPickStyle;
-  pickStyle->ref();
-  enableMaterial = new SoMaterial;
-  enableMaterial->ref();
+  if (!searchAction)
+    searchAction = new SoSearchAction;
+  if (!matrixAction)
+    matrixAction = new SoGetMatrixAction(SbViewportRegion());
+  if (!pickStyle) {
+    pickStyle = new SoPickStyle;
+    pickStyle->ref();
+  }
+  if (!enableMaterial) {
+    enableMaterial = new SoMaterial;
+    enableMaterial->ref();
+  }
   labelBBox = kEmptyLabelBox;
 }
 
