@@ -102,12 +102,6 @@ TEST(TextServices, editTextGetsCarriageReturnsAndComboBoxKeepsItsText)
   EXPECT_EQ(TextNode::convertToCString("a\\nb\r\\t", combo), SbString("a\\nb\r\\t"));
 }
 
-TEST(TextServices, convertFromCStringAlwaysYieldsNothing)
-{
-  EXPECT_EQ(TextNode::convertFromCString("a\nb", 0), SbString());
-  EXPECT_EQ(TextNode::convertFromCString("plain", 1), SbString());
-}
-
 TEST(TextServices, lineCountIsTheNumberOfLineFeeds)
 {
   EXPECT_EQ(TextNode::getNumLines(""), 0);
@@ -115,15 +109,6 @@ TEST(TextServices, lineCountIsTheNumberOfLineFeeds)
   EXPECT_EQ(TextNode::getNumLines("a\nb\n"), 2);
   EXPECT_EQ(TextNode::getNumLines("\r\n\r\n\n"), 3);
   EXPECT_EQ(TextNode::getNumLines("escaped\\n"), 0) << "an escape is no line feed until converted";
-}
-
-TEST(TextServices, defaultFontIsTheDialogFont)
-{
-  const QFont font = SoFormwright::getFormwrightFont();
-  EXPECT_EQ(font.family(), QString("Microsoft Sans Serif"));
-  EXPECT_EQ(font.pointSize(), 8);
-  EXPECT_EQ(font.weight(), QFont::Normal);
-  EXPECT_FALSE(font.italic());
 }
 
 TEST(TextServices, labelPixelSizeOfOneLine)
