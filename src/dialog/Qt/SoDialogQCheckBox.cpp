@@ -5,10 +5,9 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QRect>
-#include <QResizeEvent>
 
 SoDialogQCheckBox::SoDialogQCheckBox(QWidget* parent, SoDialogCheckBox* node)
-  : QFrame(parent), m_node(node)
+  : SoDialogQFrame(parent, node), m_node(node)
 {
   setObjectName("FWTSoDialogQCheckBoxFrame");
   m_checkBox = new QCheckBox(this);
@@ -74,10 +73,8 @@ void SoDialogQCheckBox::eventNotify(int state)
   m_node->eventNotify(state != 0 ? 1 : 0, 0);
 }
 
-void SoDialogQCheckBox::resizeEvent(QResizeEvent* event)
+void SoDialogQCheckBox::placePieces()
 {
-  m_node->width = event->size().width();
-  m_node->height = event->size().height();
   m_node->updateCheckBoxWidget();
   m_node->updateLabelWidget();
 }

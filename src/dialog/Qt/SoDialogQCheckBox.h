@@ -1,16 +1,15 @@
 #pragma once
 
-#include <QFrame>
+#include "SoDialogQFrame.h"
 
 class QCheckBox;
 class QLabel;
 class QRect;
-class QResizeEvent;
 class SoDialogCheckBox;
 
 // The Qt side of a SoDialogCheckBox: a frame that holds the box and the label
 // beside it, placed by hand, and passes the user's clicks on to the node.
-class SoDialogQCheckBox : public QFrame {
+class SoDialogQCheckBox : public SoDialogQFrame {
   Q_OBJECT
 
 public:
@@ -31,7 +30,7 @@ public Q_SLOTS:
   void eventNotify(int state);
 
 protected:
-  void resizeEvent(QResizeEvent* event) override;
+  void placePieces() override;
 
 private:
   SoDialogCheckBox* m_node;

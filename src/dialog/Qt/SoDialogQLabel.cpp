@@ -4,10 +4,9 @@
 
 #include <QLabel>
 #include <QRect>
-#include <QResizeEvent>
 
 SoDialogQLabel::SoDialogQLabel(QWidget* parent, SoDialogLabel* node)
-  : QFrame(parent), m_node(node)
+  : SoDialogQFrame(parent, node), m_node(node)
 {
   setObjectName("FWTSoDialogQLabelFrame");
   m_label = new QLabel(this);
@@ -36,9 +35,7 @@ void SoDialogQLabel::setLabelText(const QString& text)
   m_label->setText(text);
 }
 
-void SoDialogQLabel::resizeEvent(QResizeEvent* event)
+void SoDialogQLabel::placePieces()
 {
-  m_node->width = event->size().width();
-  m_node->height = event->size().height();
   m_node->updateLabelWidget();
 }

@@ -1,15 +1,14 @@
 #pragma once
 
-#include <QFrame>
+#include "SoDialogQFrame.h"
 
 class QLabel;
 class QRect;
-class QResizeEvent;
 class SoDialogLabel;
 
 // The Qt side of a SoDialogLabel: a frame that holds the text, placed by
 // hand rather than by a layout.
-class SoDialogQLabel : public QFrame {
+class SoDialogQLabel : public SoDialogQFrame {
   Q_OBJECT
 
 public:
@@ -21,9 +20,7 @@ public:
   void setLabelText(const QString& text);
 
 protected:
-  // The frame's size is the node's size: Qt's layout decides it, and the
-  // node keeps it and places the text again.
-  void resizeEvent(QResizeEvent* event) override;
+  void placePieces() override;
 
 private:
   SoDialogLabel* m_node;

@@ -5,10 +5,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRect>
-#include <QResizeEvent>
 
 SoDialogQPushButton::SoDialogQPushButton(QWidget* parent, SoDialogPushButton* node)
-  : QFrame(parent), m_node(node)
+  : SoDialogQFrame(parent, node), m_node(node)
 {
   setObjectName("FWTSoDialogQPushButtonFrame");
   m_button = new QPushButton(this);
@@ -68,10 +67,8 @@ void SoDialogQPushButton::eventNotify()
   m_node->eventNotify(0, 0);
 }
 
-void SoDialogQPushButton::resizeEvent(QResizeEvent* event)
+void SoDialogQPushButton::placePieces()
 {
-  m_node->width = event->size().width();
-  m_node->height = event->size().height();
   m_node->updateButtonWidget();
   m_node->updateLabelWidget();
 }

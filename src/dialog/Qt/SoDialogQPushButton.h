@@ -1,16 +1,15 @@
 #pragma once
 
-#include <QFrame>
+#include "SoDialogQFrame.h"
 
 class QLabel;
 class QPushButton;
 class QRect;
-class QResizeEvent;
 class SoDialogPushButton;
 
 // The Qt side of a SoDialogPushButton: a frame that holds the button and the
 // label beside it, placed by hand, and passes the press on to the node.
-class SoDialogQPushButton : public QFrame {
+class SoDialogQPushButton : public SoDialogQFrame {
   Q_OBJECT
 
 public:
@@ -28,7 +27,7 @@ public Q_SLOTS:
   void eventNotify();
 
 protected:
-  void resizeEvent(QResizeEvent* event) override;
+  void placePieces() override;
 
 private:
   SoDialogPushButton* m_node;

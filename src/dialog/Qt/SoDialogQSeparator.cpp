@@ -3,10 +3,9 @@
 #include <SoDialogSeparator.h>
 
 #include <QRect>
-#include <QResizeEvent>
 
 SoDialogQSeparator::SoDialogQSeparator(QWidget* parent, SoDialogSeparator* node)
-  : QFrame(parent), m_node(node)
+  : SoDialogQFrame(parent, node), m_node(node)
 {
   setObjectName("FWTSoDialogQSeparatorFrame");
   m_line = new QFrame(this);
@@ -25,9 +24,7 @@ void SoDialogQSeparator::setLinePlace(const QRect& place)
   m_line->move(place.x(), place.y());
 }
 
-void SoDialogQSeparator::resizeEvent(QResizeEvent* event)
+void SoDialogQSeparator::placePieces()
 {
-  m_node->width = event->size().width();
-  m_node->height = event->size().height();
   m_node->updateSeparatorWidget();
 }

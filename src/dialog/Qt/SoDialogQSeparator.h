@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QFrame>
+#include "SoDialogQFrame.h"
 
 class QRect;
-class QResizeEvent;
 class SoDialogSeparator;
 
 // The Qt side of a SoDialogSeparator: a frame that holds the line, placed by
 // hand.
-class SoDialogQSeparator : public QFrame {
+class SoDialogQSeparator : public SoDialogQFrame {
   Q_OBJECT
 
 public:
@@ -18,7 +17,7 @@ public:
   void setLinePlace(const QRect& place);
 
 protected:
-  void resizeEvent(QResizeEvent* event) override;
+  void placePieces() override;
 
 private:
   SoDialogSeparator* m_node;
