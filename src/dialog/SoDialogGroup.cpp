@@ -217,10 +217,10 @@ void SoDialogGroup::stackedDefaultSize(int axis, int32_t spacing, SbVec2i32& siz
   SoSizeRules::StackedSizes stacked(axis);
   if (numChildren == 0)
     stacked.setUnlimitedMaximum();
+  updateChildrenSizeDB();
   for (int i = 0; i < numChildren; ++i) {
     SbVec2i32 s(0, 0), m(0, 0), x(0, 0);
     getComponent(i)->getSize(s, m, x);
-    updateChildrenSizeDB();
     sizeTable.set(i, s, m, x);
     stacked.add(s, m, x);
   }

@@ -374,6 +374,7 @@ void SoTopLevelDialog::getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
 void SoTopLevelDialog::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
 {
   SoSizeRules::StackedSizes stacked(1);
+  updateChildrenSizeDB();
   for (int i = 0; i < numChildren; ++i) {
     auto* child = static_cast<SoTopComponent*>((*children)[i]);
     SbVec2i32 s(0, 0), m(0, 0), x(0, 0);
@@ -381,7 +382,6 @@ void SoTopLevelDialog::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32
     // A menu bar keeps its height whatever room the window has.
     if (child->isOfType(SoMenuBar::getClassTypeId()))
       x[1] = m[1];
-    updateChildrenSizeDB();
     sizeTable.set(i, s, m, x);
     stacked.add(s, m, x);
   }
