@@ -2,6 +2,7 @@
 
 #include <SoTopLevelDialog.h>
 
+#include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -97,6 +98,19 @@ TEST(Preview, badInputGivesOneLineAndStatusOne)
     const QStringList own = run.err.split('\n').filter("formwright-preview:");
     ASSERT_EQ(own.size(), 1) << run.err.toStdString();
     EXPECT_TRUE(own.first().startsWith(c.line)) << own.first().toStdString();
+  }
+}
+
+TEST(Preview, everyExampleOpensAndRenders)
+{
+  QTemporaryDir dir;
+  const QStringList examples = QDir(FORMWRIGHT_EXAMPLES).entryList({"*.scn"}, QDir::Files);
+  ASSERT_FALSE(examples.isEmpty());
+  for (const QString& example : examples) {
+    const QString png = dir.filePath(example + ".png");
+    const PreviewRun run = preview({QDir(FORMWRIGHT_EXAMPLES).filePath(example), "--screenshot", png});
+    EXPECT_EQ(run.status, 0) << example.toStdString() << ": " << run.err.toStdString();
+    EXPECT_FALSE(QImage(png).isNull()) << example.toStdString();
   }
 }
 
