@@ -3,7 +3,7 @@
 #include <SoDialogGroup.h>
 #include <SoDialogLabel.h>
 #include <SoFormwright.h>
-#include <SoTopLevelAuditor.h>
+#include <SoDialogAuditor.h>
 #include <SoTopLevelDialog.h>
 
 #include <Inventor/nodekits/SoNodekitCatalog.h>
@@ -135,7 +135,8 @@ TEST(RootNode, foreignSensorIsIgnored)
 TEST(RootNode, auditorListKeepsOrderAndIgnoresRepeats)
 {
   ProbeNode* node = makeProbe();
-  SoTopLevelAuditor first, second, third;
+  struct Listener : SoDialogAuditor {};
+  Listener first, second, third;
   node->removeAuditor(&first); // no list yet: harmless
   EXPECT_EQ(node->getAuditorListLength(), 0);
 

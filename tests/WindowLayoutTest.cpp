@@ -381,4 +381,46 @@ TEST(WindowLayout, spareRoomIsSharedBeyondEachControlsNaturalSize)
   window->hide();
 }
 
+TEST(WindowLayout, removedRowForgetsItsFrameAndLayout)
+{
+  auto* window = make<SoTopLevelDialog>();
+  auto* row = make<ExposedRow>();
+  row->addChild(makeLeaf("a"));
+  window->addChild(row);
+  window->addChild(makeLeaf("b"));
+  window->buildDialog(nullptr, 0);
+  ASSERT_NE(row->componentLayout, nullptr);
+
+  window->removeChild(row); // the application still holds the row
+  EXPECT_EQ(row->getWidget(), nullptr);
+  EXPECT_EQ(row->componentLayout, nullptr);
+  row->rowSpacing = 7; // reaches no deleted layout
+  row->edgeStyle = SoDialogComponent::SHADOW_OUT;
+}
+
+TEST(WindowLayout, dialogToBeBuiltInsideNoParentOpensItsOwnWindow)
+{
+  auto* window = make<SoTopLevelDialog>();
+  window->addChild(makeSizedLeaf(100, 30));
+  window->buildDialog(nullptr, 1);
+  ASSERT_NE(window->getBaseWidget(), nullptr);
+  window->show();
+  EXPECT_TRUE(window->getBaseWidget()->isVisible());
+  window->hide();
+}
+
+TEST(WindowLayout, roundRobinPlaceStaysInsideAShrunkTable)
+{
+  SoChildSizeTable table;
+  table.resize(3);
+  for (int i = 0; i < 3; ++i)
+    table.set(i, SbVec2i32(0, 10), SbVec2i32(0, 0), SbVec2i32(0, 100));
+  table.distribute(1, 2);
+  ASSERT_EQ(table.nextChildToResize, 2);
+  table.resize(1);
+  table.set(0, SbVec2i32(0, 10), SbVec2i32(0, 0), SbVec2i32(0, 100));
+  EXPECT_EQ(table.distribute(1, 1), 0);
+  EXPECT_EQ(table.childSizes[0][1], 11);
+}
+
 }

@@ -13,6 +13,9 @@ void SoChildSizeTable::resize(int32_t count)
   for (int32_t i = 0; i < count; ++i)
     set(i, SbVec2i32(0, 0), SbVec2i32(0, 0), SbVec2i32(0, 0));
   sizeTableLength = count;
+  // The round robin goes on where it was, if that place still exists.
+  if (nextChildToResize >= count)
+    nextChildToResize = 0;
 }
 
 void SoChildSizeTable::clear()

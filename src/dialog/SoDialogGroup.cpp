@@ -67,7 +67,10 @@ void SoDialogGroup::destroyWidget()
     if (SoDialogComponent* child = getComponent(i))
       child->destroyWidget();
   SoDialogComponent::destroyWidget();
+  // A row's or column's inner layout died with the frame; the spacing
+  // sensors must not reach it.
   groupWidget = nullptr;
+  componentLayout = nullptr;
 }
 
 void SoDialogGroup::addAuditor(SoDialogAuditor* auditor)
@@ -233,6 +236,7 @@ void SoDialogGroup::buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32&
   if (sizeTable.sizeTableLength != numChildren)
     updateChildrenSizeDB();
   bool firstWidgetBuild = false;
+  bool firstSceneBuild = false;
   if (mode != 0) {
     firstWidgetBuild = componentWidget == nullptr;
     if (!existWidget(componentWidget)) {
@@ -249,9 +253,13 @@ void SoDialogGroup::buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32&
     updateChildren();
   } else {
     SoDialogGroup::buildWidget(parent, useSize, size, mode);
+    firstSceneBuild = !isBuilt3D();
+    setBuilt3D(1);
   }
   if (firstWidgetBuild)
     changeWidgetEnable(enable.getValue());
+  if (firstSceneBuild)
+    change3DWidgetEnable(enable.getValue());
 }
 
 void SoDialogGroup::addFrameAllowance(SbVec2i32& size, int sign) const

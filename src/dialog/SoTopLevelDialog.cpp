@@ -158,7 +158,10 @@ void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
 
 void SoTopLevelDialog::createBaseWidget(QWidget* parent)
 {
-  if (buildInsideParent && parent) {
+  // With no parent to fill, the dialog opens a window of its own.
+  if (!parent)
+    buildInsideParent = 0;
+  if (buildInsideParent) {
     baseWidget = parent;
     delete parent->layout();
     baseWidget->setBackgroundRole(QPalette::Window);
