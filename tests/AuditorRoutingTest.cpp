@@ -11,6 +11,8 @@
 #include <SoMenuFileSelection.h>
 #include <SoMenuPopup.h>
 #include <SoRowDialog.h>
+#include <SoTabDialog.h>
+#include <SoTabDialogAuditor.h>
 #include <SoTopLevelDialog.h>
 
 #include "SoPreferences.h"
@@ -208,6 +210,28 @@ TEST(MenuAuditors, menusClimbToTheWindowWhichSortsEntriesByClass)
   popup->addAuditor(&atPopup);
   popup->applyAuditor(check);
   EXPECT_EQ(log, std::vector<std::string>{"popup:menuCheck:grid"});
+}
+
+TEST(MenuAuditors, tabDialogAuditorsHearNothingButPages)
+{
+  struct PageListener : SoTabDialogAuditor {
+    int calls = 0;
+    void tabDialog(SoTabDialog*) override { ++calls; }
+  } pages;
+  std::vector<std::string> log;
+  Recorder above(log, "window");
+  auto* window = new SoTopLevelDialog;
+  auto* tabs = new SoTabDialog;
+  auto* button = new SoDialogPushButton;
+  window->ref();
+  button->ref();
+  window->addChild(tabs);
+  tabs->addChild(button);
+  window->addAuditor(&above);
+  tabs->addAuditor(&pages);
+  tabs->applyAuditor(button);
+  EXPECT_EQ(pages.calls, 0);
+  EXPECT_TRUE(log.empty()) << "the tab dialog's own auditor still holds the event";
 }
 
 }

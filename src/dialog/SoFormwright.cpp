@@ -306,8 +306,12 @@ void SoFormwright::applyContainerAuditors(SoFormwright* control, void (*tests)(S
                                           SoDialogAuditor* fallback)
 {
   const int count = getAuditorListLength();
-  for (int i = 0; i < count; ++i)
-    tests(static_cast<SoDialogAuditor*>(getAuditor(i)), control);
+  for (int i = 0; i < count; ++i) {
+    // A tab dialog keeps auditors of its own kind in the same list; they
+    // hear of page changes only.
+    if (getAuditor(i)->isOfType(SoDialogAuditor::getClassTypeId()))
+      tests(static_cast<SoDialogAuditor*>(getAuditor(i)), control);
+  }
   if (count > 0)
     return;
   if (parentNode)
