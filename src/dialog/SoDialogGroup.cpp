@@ -15,6 +15,7 @@
 #include <QSpacerItem>
 
 SO_FORMWRIGHT_SOURCE(SoDialogGroup, SoDialogComponent, "DialogGroup")
+SO_FORMWRIGHT_CHILD_OPERATIONS(SoDialogGroup, SoDialogComponent)
 
 SoDialogGroup::SoDialogGroup()
 {
@@ -73,29 +74,9 @@ void SoDialogGroup::destroyWidget()
   componentLayout = nullptr;
 }
 
-void SoDialogGroup::addAuditor(SoDialogAuditor* auditor)
-{
-  SoFormwright::addAuditor(auditor);
-}
-
-void SoDialogGroup::removeAuditor(SoDialogAuditor* auditor)
-{
-  SoFormwright::removeAuditor(auditor);
-}
-
 void SoDialogGroup::applyAuditor(SoFormwright* control)
 {
   applyContainerAuditors(control, &SoAuditorDispatch::applyDialogTests, defaultAuditor);
-}
-
-void SoDialogGroup::applyAuditors()
-{
-  childList().applyAuditors();
-}
-
-SoFormwright* SoDialogGroup::searchForAuditorId(SbString id)
-{
-  return childList().searchForAuditorId(id);
 }
 
 void SoDialogGroup::changeEnable()
@@ -280,76 +261,6 @@ void SoDialogGroup::computeNewChildrenSize(int axis, SbVec2i32& newSize)
   SbVec2i32 size, min, max;
   getDefaultSize(size, min, max);
   sizeTable.distribute(axis, newSize[axis] - size[axis]);
-}
-
-SoFormwrightChildren<SoDialogGroup, SoDialogComponent> SoDialogGroup::childList() const
-{
-  return {const_cast<SoDialogGroup&>(*this), "SoDialogGroup"};
-}
-
-void SoDialogGroup::addChild(SoDialogComponent* child)
-{
-  childList().insert(child, numChildren, "addChild");
-}
-
-void SoDialogGroup::insertChild(SoDialogComponent* child, int index)
-{
-  childList().insert(child, index, "insertChild");
-}
-
-SoNode* SoDialogGroup::getChild(int index) const
-{
-  return childList().get(index);
-}
-
-int SoDialogGroup::getNumChildren() const
-{
-  return numChildren;
-}
-
-int SoDialogGroup::findChild(const SoDialogComponent* child) const
-{
-  return childList().find(child);
-}
-
-void SoDialogGroup::removeChild(SoDialogComponent* child)
-{
-  removeChild(findChild(child));
-}
-
-void SoDialogGroup::removeChild(int index)
-{
-  childList().remove(index);
-}
-
-void SoDialogGroup::removeAllChildren()
-{
-  childList().removeAll();
-}
-
-void SoDialogGroup::replaceChild(SoDialogComponent* oldChild, SoDialogComponent* newChild)
-{
-  replaceChild(findChild(oldChild), newChild);
-}
-
-void SoDialogGroup::replaceChild(int index, SoDialogComponent* newChild)
-{
-  childList().replace(index, newChild);
-}
-
-SoChildList* SoDialogGroup::getChildren() const
-{
-  return children;
-}
-
-SbBool SoDialogGroup::readInstance(SoInput* in, unsigned short flags)
-{
-  return childList().readInstance(in, flags);
-}
-
-int SoDialogGroup::readChildren(SoInput* in)
-{
-  return childList().readChildren(in);
 }
 
 void SoDialogGroup::write(SoWriteAction* action)

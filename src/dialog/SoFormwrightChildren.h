@@ -6,6 +6,7 @@
 // and in the class named by their messages, so both use this one template.
 // `Owner` declares it a friend.
 
+#include <SoDialogAuditor.h>
 #include <SoDialogGroup.h>
 #include <SoFormwright.h>
 
@@ -234,3 +235,26 @@ private:
   Owner& m_owner;
   const char* m_className;
 };
+
+// The child and auditor operations of a window or group, each handed to the
+// one template above. `K` is the container class, `Child` the type its
+// children must have.
+#define SO_FORMWRIGHT_CHILD_OPERATIONS(K, Child)                                                   \
+  SoFormwrightChildren<K, Child> K::childList() const { return {const_cast<K&>(*this), #K}; }     \
+  void K::addChild(Child* child) { childList().insert(child, numChildren, "addChild"); }           \
+  void K::insertChild(Child* child, int index) { childList().insert(child, index, "insertChild"); } \
+  SoNode* K::getChild(int index) const { return childList().get(index); }                          \
+  int K::getNumChildren() const { return numChildren; }                                            \
+  int K::findChild(const Child* child) const { return childList().find(child); }                   \
+  void K::removeChild(Child* child) { removeChild(findChild(child)); }                             \
+  void K::removeChild(int index) { childList().remove(index); }                                    \
+  void K::removeAllChildren() { childList().removeAll(); }                                         \
+  void K::replaceChild(Child* oldChild, Child* newChild) { replaceChild(findChild(oldChild), newChild); } \
+  void K::replaceChild(int index, Child* newChild) { childList().replace(index, newChild); }       \
+  SoChildList* K::getChildren() const { return children; }                                         \
+  SbBool K::readInstance(SoInput* in, unsigned short flags) { return childList().readInstance(in, flags); } \
+  int K::readChildren(SoInput* in) { return childList().readChildren(in); }                        \
+  void K::applyAuditors() { childList().applyAuditors(); }                                         \
+  SoFormwright* K::searchForAuditorId(SbString id) { return childList().searchForAuditorId(id); }  \
+  void K::addAuditor(SoDialogAuditor* auditor) { SoFormwright::addAuditor(auditor); }              \
+  void K::removeAuditor(SoDialogAuditor* auditor) { SoFormwright::removeAuditor(auditor); }

@@ -23,6 +23,7 @@
 #include <Inventor/nodes/SoSwitch.h>
 
 SO_FORMWRIGHT_SOURCE(SoTopLevelDialog, SoFormwright, "TopLevelDialog")
+SO_FORMWRIGHT_CHILD_OPERATIONS(SoTopLevelDialog, SoTopComponent)
 
 namespace {
 // A maximum of 0 asks for the children's maximum, which is not known when
@@ -254,16 +255,6 @@ void SoTopLevelDialog::changeMinMaxSize()
 // The minimized state only shows in the scene form.
 void SoTopLevelDialog::updateMinimizedState() {}
 
-void SoTopLevelDialog::addAuditor(SoDialogAuditor* auditor)
-{
-  SoFormwright::addAuditor(auditor);
-}
-
-void SoTopLevelDialog::removeAuditor(SoDialogAuditor* auditor)
-{
-  SoFormwright::removeAuditor(auditor);
-}
-
 void SoTopLevelDialog::applyAuditor(SoFormwright* control)
 {
   const int count = getAuditorListLength();
@@ -272,16 +263,6 @@ void SoTopLevelDialog::applyAuditor(SoFormwright* control)
     SoAuditorDispatch::applyDialogTests(auditor, control);
     SoAuditorDispatch::applyMenuTests(auditor, control);
   }
-}
-
-void SoTopLevelDialog::applyAuditors()
-{
-  childList().applyAuditors();
-}
-
-SoFormwright* SoTopLevelDialog::searchForAuditorId(SbString id)
-{
-  return childList().searchForAuditorId(id);
 }
 
 void SoTopLevelDialog::changeEnable()
@@ -481,76 +462,6 @@ void SoTopLevelDialog::updateAfterSceneGraphChange()
     updateDialogBuild(1);
   if (isBuilt3D())
     updateDialogBuild(0);
-}
-
-SoFormwrightChildren<SoTopLevelDialog, SoTopComponent> SoTopLevelDialog::childList() const
-{
-  return {const_cast<SoTopLevelDialog&>(*this), "SoTopLevelDialog"};
-}
-
-void SoTopLevelDialog::addChild(SoTopComponent* child)
-{
-  childList().insert(child, numChildren, "addChild");
-}
-
-void SoTopLevelDialog::insertChild(SoTopComponent* child, int index)
-{
-  childList().insert(child, index, "insertChild");
-}
-
-SoNode* SoTopLevelDialog::getChild(int index) const
-{
-  return childList().get(index);
-}
-
-int SoTopLevelDialog::getNumChildren() const
-{
-  return numChildren;
-}
-
-int SoTopLevelDialog::findChild(const SoTopComponent* child) const
-{
-  return childList().find(child);
-}
-
-void SoTopLevelDialog::removeChild(SoTopComponent* child)
-{
-  removeChild(findChild(child));
-}
-
-void SoTopLevelDialog::removeChild(int index)
-{
-  childList().remove(index);
-}
-
-void SoTopLevelDialog::removeAllChildren()
-{
-  childList().removeAll();
-}
-
-void SoTopLevelDialog::replaceChild(SoTopComponent* oldChild, SoTopComponent* newChild)
-{
-  replaceChild(findChild(oldChild), newChild);
-}
-
-void SoTopLevelDialog::replaceChild(int index, SoTopComponent* newChild)
-{
-  childList().replace(index, newChild);
-}
-
-SoChildList* SoTopLevelDialog::getChildren() const
-{
-  return children;
-}
-
-SbBool SoTopLevelDialog::readInstance(SoInput* in, unsigned short flags)
-{
-  return childList().readInstance(in, flags);
-}
-
-int SoTopLevelDialog::readChildren(SoInput* in)
-{
-  return childList().readChildren(in);
 }
 
 void SoTopLevelDialog::write(SoWriteAction* action)
