@@ -143,11 +143,7 @@ void SoDialogGroup::updateChildrenSizeDB()
 
 void SoDialogGroup::updateChildren()
 {
-  const int mode = SoFormMode::buildMode();
-  for (int i = 0; i < numChildren; ++i) {
-    SbVec2i32 useSize(0, 0), size(0, 0);
-    getComponent(i)->buildWidget(componentWidget, useSize, size, mode);
-  }
+  childList().build(componentWidget);
 }
 
 void SoDialogGroup::updateAfterSceneGraphChange()

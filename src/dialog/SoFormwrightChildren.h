@@ -11,6 +11,7 @@
 #include <SoFormwright.h>
 
 #include "SoDBImpl.h"
+#include "SoFormMode.h"
 
 #include <Inventor/SoInput.h>
 #include <Inventor/SoOutput.h>
@@ -82,6 +83,17 @@ public:
     m_owner.children->set(index, child);
     child->setParent(&m_owner);
     changed();
+  }
+
+  // Builds every child inside `parent`, in the toolkit-wide form. A child is
+  // never given a dictated size: its negotiated size fields stand.
+  void build(QWidget* parent) const
+  {
+    const int mode = SoFormMode::buildMode();
+    for (int i = 0; i < m_owner.numChildren; ++i) {
+      SbVec2i32 useSize(0, 0), size(0, 0);
+      static_cast<Child*>((*m_owner.children)[i])->buildWidget(parent, useSize, size, mode);
+    }
   }
 
   // Lets the owner's auditors hear of every control below it at once. A

@@ -421,11 +421,7 @@ void SoTopLevelDialog::updateChildrenSizeDB()
 
 void SoTopLevelDialog::updateChildren()
 {
-  const int mode = SoFormMode::buildMode();
-  for (int i = 0; i < numChildren; ++i) {
-    SbVec2i32 useSize(0, 0), size(0, 0);
-    static_cast<SoTopComponent*>((*children)[i])->buildWidget(baseWidget, useSize, size, mode);
-  }
+  childList().build(baseWidget);
 }
 
 void SoTopLevelDialog::computeNewChildrenHeight(SbVec2i32& newSize)
