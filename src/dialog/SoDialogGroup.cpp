@@ -5,7 +5,6 @@
 #include <SoTopLevelDialog.h>
 
 #include "SoAuditorDispatch.h"
-#include "SoFormMode.h"
 #include "SoFormwrightChildren.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoSizeRules.h"
