@@ -45,7 +45,8 @@ public:
   SoSFEnum labelAlignment;
 
   // Counted start and end of the library; init may be called any number of
-  // times, and each finish undoes one of them.
+  // times, and each finish undoes one of them. init starts the toolkit;
+  // finish never ends it, as others may still use it.
   static void init();
   static void finish();
   static bool isInitialized();

@@ -84,4 +84,7 @@ private:
   void enterField(SoFieldContainer* instance, const char* name, class SoField& field);
 
   const char* m_className;
+  // True once an instance of the current registration has begun the field
+  // table.
+  bool m_fieldDataStarted = false;
 };

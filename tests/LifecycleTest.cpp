@@ -6,9 +6,10 @@
 #include <SoFormwright.h>
 
 #include "ScInitModuleCmd.h"
-#include "SoToolkitStarts.h"
 
+#include <Inventor/SoInteraction.h>
 #include <Inventor/fields/SoFieldData.h>
+#include <Inventor/nodekits/SoNodeKit.h>
 #include <Inventor/nodekits/SoNodekitCatalog.h>
 #include <gtest/gtest.h>
 
@@ -32,14 +33,11 @@ TEST(Lifecycle, productAndVersion)
 
 TEST(Lifecycle, secondInitIsCountedAndUndoneByOneFinish)
 {
-  const int toolkitStarts = SoToolkitStarts::getStartCount();
   const SoType labelType = SoDialogLabel::getClassTypeId();
   SoFormwright::init();
-  EXPECT_EQ(SoToolkitStarts::getStartCount(), toolkitStarts + 1);
   EXPECT_EQ(SoDialogLabel::getClassTypeId(), labelType) << "a second init must not register again";
   SoFormwright::finish();
   EXPECT_TRUE(SoFormwright::isInitialized());
-  EXPECT_EQ(SoToolkitStarts::getStartCount(), toolkitStarts);
   EXPECT_EQ(SoDialogLabel::getClassTypeId(), labelType);
 }
 
@@ -47,15 +45,52 @@ TEST(Lifecycle, surplusFinishTouchesNothing)
 {
   SoFormwright::finish();
   ASSERT_FALSE(SoFormwright::isInitialized());
-  const int toolkitStarts = SoToolkitStarts::getStartCount();
   {
     DebugMessages messages;
     SoFormwright::finish();
     EXPECT_EQ(messages.count(), 0u);
   }
   EXPECT_FALSE(SoFormwright::isInitialized());
-  EXPECT_EQ(SoToolkitStarts::getStartCount(), toolkitStarts);
+  EXPECT_TRUE(SoDB::isInitialized());
   SoFormwright::init();
+}
+
+// The application starts the toolkit after the library and still holds a
+// scene when the library ends.
+TEST(Lifecycle, lastFinishLeavesTheToolkitToTheApplication)
+{
+  SoFormwright::finish();
+  SoDB::finish();
+  SoFormwright::init();
+  SoDB::init();
+  SoNodeKit::init();
+  SoInteraction::init();
+  auto* scene = new SoSeparator;
+  scene->ref();
+  SoFormwright::finish();
+  EXPECT_TRUE(SoDB::isInitialized());
+  scene->unref();
+  SoFormwright::init();
+}
+
+// A node kept past the end of the library and touched then must not spoil
+// the classes that the next start registers.
+TEST(Lifecycle, nodeTouchedAfterFinishLeavesTheNextStartWhole)
+{
+  SoSeparator* kept = readScene(kLabelFile);
+  ASSERT_NE(kept, nullptr);
+  SoFormwright::finish();
+  {
+    DebugMessages messages;
+    EXPECT_EQ(kept->getChild(0)->getField("label"), nullptr);
+  }
+  SoFormwright::init();
+  SoSeparator* fresh = readScene("#Inventor V2.1 ascii\nDialogLabel { label \"new\" }\n");
+  ASSERT_NE(fresh, nullptr);
+  auto* label = static_cast<SoDialogLabel*>(fresh->getChild(0));
+  EXPECT_EQ(label->label.getValue(), SbString("new"));
+  EXPECT_NE(SoDialogLabel::getClassNodekitCatalog(), nullptr);
+  fresh->unref();
 }
 
 TEST(Lifecycle, restartRegistersEveryClassAfreshAndTellsTheClusterOnce)

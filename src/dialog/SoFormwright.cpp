@@ -12,16 +12,18 @@
 #include "SoFormwrightFile.h"
 #include "SoFormwrightClassList.h"
 #include "SoFormwrightSubNodeSource.h"
-#include "SoToolkitStarts.h"
+#include "SoSFFilePathString.h"
 
 #include <Inventor/SbViewportRegion.h>
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
+#include <Inventor/SoInteraction.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoGetMatrixAction.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/lists/SbPList.h>
+#include <Inventor/nodekits/SoNodeKit.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoPickStyle.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -63,7 +65,10 @@ void SoFormwright::init()
   if (!s_initMutex)
     s_initMutex = new SbThreadMutex;
   SbThreadAutoLock lock(s_initMutex);
-  SoToolkitStarts::init();
+  SoDB::init();
+  SoNodeKit::init();
+  SoInteraction::init();
+  SoSFFilePathString::initClass();
   if (s_initRefCount == 0) {
     for (const ClassRegistration& registration : kClasses)
       registration.initClass();
@@ -78,17 +83,17 @@ void SoFormwright::finish()
   if (s_initRefCount == 0)
     return;
   --s_initRefCount;
-  if (s_initRefCount == 0) {
-    releaseFileCache();
-    SoAuditor::exitClasses();
-    for (auto registration = std::rbegin(kClasses); registration != std::rend(kClasses); ++registration)
-      registration->exitClass();
-  }
-  SoToolkitStarts::finish();
-  if (s_initRefCount == 0) {
-    delete s_initMutex;
-    s_initMutex = nullptr;
-  }
+  // The toolkit is never ended here: the application, or another library,
+  // may have started it too and still hold nodes, and the toolkit does not
+  // count its starts. Ending it is the application's call.
+  if (s_initRefCount > 0)
+    return;
+  releaseFileCache();
+  SoAuditor::exitClasses();
+  for (auto registration = std::rbegin(kClasses); registration != std::rend(kClasses); ++registration)
+    registration->exitClass();
+  delete s_initMutex;
+  s_initMutex = nullptr;
 }
 
 bool SoFormwright::isInitialized()

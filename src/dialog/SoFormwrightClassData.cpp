@@ -54,6 +54,7 @@ void SoFormwrightClassData::exitClass()
     fieldData = nullptr;
     parentFieldData = nullptr;
     firstInstance = 1;
+    m_fieldDataStarted = false;
   } else {
     const std::string source = std::string(m_className) + "::exitClass";
     SoDebugError::post(source.c_str(),
@@ -92,10 +93,15 @@ void SoFormwrightClassData::beginInstance(const void* instance, void (*initClass
       initClassOfInstance();
     }
     SoTypedObject::checkDatabase(m_className, instance, classTypeId, classTypeId);
-    if (!fieldData)
+    if (!m_fieldDataStarted) {
+      // A table made meanwhile for a node left over from an earlier start is
+      // empty: the first instance of this start fills a new one.
+      delete fieldData;
       fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
-    else
+      m_fieldDataStarted = true;
+    } else {
       firstInstance = 0;
+    }
   }
   // The catalog is rebuilt with the field table, so that a class registered
   // again after a finish starts from its parent's current catalog.
