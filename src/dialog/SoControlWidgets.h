@@ -10,17 +10,24 @@
 
 #include <QRect>
 #include <QString>
+#include <QStringDecoder>
 #include <QWidget>
 
 #include <cstdint>
 
 namespace SoControlWidgets {
 
-// Field text is read from dialog files as UTF-8 bytes; it is shown and
-// measured alike.
+// Field text holds the bytes of the dialog file: UTF-8 in files written
+// today, Latin-1 in older ones. Bytes that are not valid UTF-8 are taken as
+// Latin-1. Every text is measured and shown through this one decoding.
 inline QString toWidgetText(const SbString& text)
 {
-  return QString::fromUtf8(text.getString());
+  const QByteArrayView bytes(text.getString(), text.getLength());
+  QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+  QString decoded = utf8.decode(bytes);
+  if (utf8.hasError())
+    return QString::fromLatin1(bytes);
+  return decoded;
 }
 
 // Only the horizontal part: the vertical place is the control's to choose.
