@@ -122,9 +122,17 @@ protected:
 
 private:
   void createComponentWidget(QWidget* parent);
+  // Where this component's layout goes in its parent's layout: before the
+  // layout of the next sibling already built, or at the end (-1).
+  int indexAmongBuiltSiblings(QBoxLayout* parentLayout) const;
   void setSize(int w, int h, int minW, int minH, int maxW, int maxH);
   void setDefaultState();
   // Until a control has made its frame, `componentWidget` holds the parent
   // widget, which the component must neither delete nor restyle.
   bool hasOwnFrame() const;
+
+  // The layout that places this component in its parent's layout, with the
+  // frame and the spacer in it. It goes when the frame goes, so that the
+  // parent keeps no room for a removed component.
+  QBoxLayout* placedLayout = nullptr;
 };

@@ -3,6 +3,9 @@
 #include "SoChildSizeTable.h"
 #include "SoFormwright.h"
 
+#include <QPointer>
+#include <QWidget>
+
 #include <Inventor/fields/SoSFInt32.h>
 #include <Inventor/fields/SoSFVec2i32.h>
 #include <Inventor/fields/SoSFVec3f.h>
@@ -127,8 +130,10 @@ protected:
   QWidget* topLevelWidget = nullptr;
   int32_t numChildren = 0;
   int32_t firstBuild = 1;
-  QWidget* currentFocusedWidget = nullptr;
-  QWidget* currentScrolledWidget = nullptr;
+  // Guarded: the application may hand over a widget that the dialog deletes
+  // anyway, such as a control's frame.
+  QPointer<QWidget> currentFocusedWidget;
+  QPointer<QWidget> currentScrolledWidget;
   QVBoxLayout* dialogLayout = nullptr;
   int32_t captureDefaults = 1;
   SbVec2i32 defaultSize{0, 0};

@@ -7,6 +7,7 @@
 #include "SoFormwrightSubNodeSource.h"
 #include "SoSizeRules.h"
 
+#include <Inventor/misc/SoChildList.h>
 #include <Inventor/nodes/SoGroup.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoSwitch.h>
@@ -225,13 +226,32 @@ void SoDialogComponent::createComponentWidget(QWidget* parent)
     layoutSpacer = new QSpacerItem(0, 20, fixedWidth.getValue() ? QSizePolicy::Expanding : QSizePolicy::Fixed,
                                    QSizePolicy::Minimum);
   }
+  placedLayout = componentLayout;
   if (parentLayout)
-    parentLayout->addLayout(componentLayout, 0);
+    parentLayout->insertLayout(indexAmongBuiltSiblings(parentLayout), componentLayout, 0);
   else if (parent && !parent->layout())
     parent->setLayout(componentLayout);
   componentLayout->setObjectName("FWTSoDialogComponentLayout");
   componentLayout->setSpacing(0);
   componentLayout->setContentsMargins(0, 0, 0, 0);
+}
+
+int SoDialogComponent::indexAmongBuiltSiblings(QBoxLayout* parentLayout) const
+{
+  const SoChildList* siblings = parentNode ? parentNode->getChildren() : nullptr;
+  const int own = siblings ? siblings->find(const_cast<SoDialogComponent*>(this)) : -1;
+  if (own < 0)
+    return -1;
+  for (int i = own + 1; i < siblings->getLength(); ++i) {
+    SoNode* sibling = (*siblings)[i];
+    if (!sibling->isOfType(SoDialogComponent::getClassTypeId()))
+      continue;
+    const QBoxLayout* placed = static_cast<SoDialogComponent*>(sibling)->placedLayout;
+    const int index = placed ? parentLayout->indexOf(placed) : -1;
+    if (index >= 0)
+      return index;
+  }
+  return -1;
 }
 
 void SoDialogComponent::destroyWidget()
@@ -240,6 +260,14 @@ void SoDialogComponent::destroyWidget()
     if (hasOwnFrame())
       delete componentWidget;
     componentWidget = nullptr;
+  }
+  // The spacer lives in the placing layout and goes with it.
+  if (placedLayout) {
+    if (componentLayout == placedLayout)
+      componentLayout = nullptr;
+    delete placedLayout;
+    placedLayout = nullptr;
+    layoutSpacer = nullptr;
   }
   SoTopComponent::destroyWidget();
 }

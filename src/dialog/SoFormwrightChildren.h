@@ -7,6 +7,7 @@
 // `Owner` declares it a friend.
 
 #include <SoDialogAuditor.h>
+#include <SoDialogComponent.h>
 #include <SoDialogGroup.h>
 #include <SoFormwright.h>
 
@@ -18,6 +19,8 @@
 #include <Inventor/actions/SoWriteAction.h>
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/misc/SoChildList.h>
+
+#include <QWidget>
 
 #include <string>
 
@@ -92,7 +95,10 @@ public:
     const int mode = SoFormMode::buildMode();
     for (int i = 0; i < m_owner.numChildren; ++i) {
       SbVec2i32 useSize(0, 0), size(0, 0);
-      static_cast<Child*>((*m_owner.children)[i])->buildWidget(parent, useSize, size, mode);
+      auto* child = static_cast<Child*>((*m_owner.children)[i]);
+      child->buildWidget(parent, useSize, size, mode);
+      if (child->isOfType(SoDialogComponent::getClassTypeId()))
+        showNewFrame(static_cast<SoDialogComponent*>(child)->getWidget(), parent);
     }
   }
 
@@ -223,6 +229,14 @@ private:
   {
     if (!m_owner.firstBuild)
       m_owner.updateAfterSceneGraphChange();
+  }
+
+  // Qt leaves a widget made inside a parent already on screen hidden until it
+  // is shown; a frame that someone hid on purpose stays hidden.
+  static void showNewFrame(QWidget* frame, QWidget* parent)
+  {
+    if (frame && frame != parent && frame->isHidden() && !frame->testAttribute(Qt::WA_WState_ExplicitShowHide))
+      frame->show();
   }
 
   std::string source(const char* operation) const { return std::string(m_className) + "::" + operation; }

@@ -79,11 +79,12 @@ SoTopLevelDialog::~SoTopLevelDialog()
   delete defaultAuditor;
   for (int i = 0; i < numChildren; ++i)
     static_cast<SoTopComponent*>((*children)[i])->destroyWidget();
+  // Either may be the window itself, or already gone with a child's frame.
+  const QPointer<QWidget> window = buildInsideParent ? nullptr : baseWidget;
   delete currentFocusedWidget;
   delete currentScrolledWidget;
   // A dialog built inside its parent does not own that widget.
-  if (!buildInsideParent)
-    delete baseWidget;
+  delete window;
   for (SoFieldSensor* sensor :
        {minimizedSensor, marginSensor, modalFrameSensor, resizableSensor, rowSpacingSensor, positionSensor,
         position3DSensor, minimized3DPositionSensor, independentMinimizedPositionSensor, widthSensor, heightSensor,
@@ -136,7 +137,15 @@ void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
   setDefaultState();
 
   if (mode != 0) {
-    baseWidget->resize(SoSizeRules::toQtSize(width.getValue()), SoSizeRules::toQtSize(height.getValue()));
+    const QSize qtSize(SoSizeRules::toQtSize(width.getValue()), SoSizeRules::toQtSize(height.getValue()));
+    // The layout's minimum must count the tree as it is now, or a window
+    // that lost a child cannot shrink to its new size.
+    dialogLayout->activate();
+    baseWidget->resize(qtSize);
+    // A window the person may not resize is held at its size; an embedding
+    // parent belongs to the application and keeps its own limits.
+    if (!resizable.getValue() && !buildInsideParent)
+      baseWidget->setFixedSize(qtSize);
     changePosition();
   }
 

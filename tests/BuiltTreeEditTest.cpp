@@ -1,0 +1,119 @@
+// What a built window shows after its tree is edited: screen order is node
+// order, a removed child leaves no room behind, and a window that may not be
+// resized is held at its negotiated size.
+
+#include "TestSupport.h"
+
+#include <SoDialogLabel.h>
+#include <SoTopLevelDialog.h>
+
+#include <QApplication>
+#include <QFrame>
+#include <QLayout>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+// Labels held at 80 x 30 by their limits, which a rebuild keeps, so that
+// every size below is worked out by hand.
+std::string fixedLabel(const char* text)
+{
+  return std::string("DialogLabel { label \"") + text +
+         "\" minWidth 80 maxWidth 80 minHeight 30 maxHeight 30 }\n";
+}
+
+SoTopLevelDialog* buildWindow(const std::string& windowFields, const std::string& children)
+{
+  SoSeparator* root = readScene("#Inventor V2.1 ascii\nTopLevelDialog { " + windowFields + "\n" + children + "}\n");
+  EXPECT_NE(root, nullptr);
+  auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+  window->buildDialog(nullptr, 0);
+  window->show();
+  return window;
+}
+
+SoDialogLabel* makeLabel(const char* text)
+{
+  SoSeparator* root = readScene("#Inventor V2.1 ascii\n" + fixedLabel(text));
+  auto* label = static_cast<SoDialogLabel*>(root->getChild(0));
+  label->ref();
+  root->unref();
+  return label;
+}
+
+// The top of each child's frame, in node order, once Qt has laid them out.
+std::vector<int> frameTops(SoTopLevelDialog* window)
+{
+  QApplication::processEvents();
+  window->getBaseWidget()->layout()->activate();
+  std::vector<int> tops;
+  for (int i = 0; i < window->getNumChildren(); ++i)
+    tops.push_back(static_cast<SoDialogComponent*>(window->getChild(i))->getWidget()->y());
+  return tops;
+}
+
+int qtMinimumHeight(SoTopLevelDialog* window)
+{
+  window->getBaseWidget()->layout()->activate();
+  return window->getBaseWidget()->minimumSizeHint().height();
+}
+
+TEST(BuiltTreeEdit, insertedChildTakesItsPlaceInNodeOrder)
+{
+  SoTopLevelDialog* window = buildWindow("", fixedLabel("a") + fixedLabel("b"));
+  window->insertChild(makeLabel("first"), 0);
+  window->insertChild(makeLabel("middle"), 2);
+  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30, 60, 90}));
+}
+
+TEST(BuiltTreeEdit, removedOrReplacedChildLeavesNoRoom)
+{
+  SoTopLevelDialog* window =
+    buildWindow("windowResizedByChildren TRUE", fixedLabel("a") + fixedLabel("b") + fixedLabel("c"));
+  ASSERT_EQ(qtMinimumHeight(window), 90);
+
+  window->removeChild(1);
+  EXPECT_EQ(window->minHeight.getValue(), 60);
+  EXPECT_EQ(qtMinimumHeight(window), 60);
+  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30}));
+  EXPECT_EQ(window->getBaseWidget()->findChildren<QFrame*>("FWTSoDialogQLabelFrame").size(), 2);
+
+  window->replaceChild(0, makeLabel("new"));
+  EXPECT_EQ(window->minHeight.getValue(), 60);
+  EXPECT_EQ(qtMinimumHeight(window), 60);
+  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30}));
+  EXPECT_EQ(window->getBaseWidget()->layout()->count(), 2);
+}
+
+TEST(BuiltTreeEdit, windowThatMayNotBeResizedKeepsItsSize)
+{
+  SoTopLevelDialog* window = buildWindow("resizable FALSE", fixedLabel("a") + fixedLabel("b"));
+  EXPECT_EQ(window->width.getValue(), 80);
+  EXPECT_EQ(window->height.getValue(), 60);
+  QWidget* widget = window->getBaseWidget();
+  EXPECT_EQ(widget->minimumSize(), QSize(80, 60));
+  EXPECT_EQ(widget->maximumSize(), QSize(80, 60));
+}
+
+// Lets a test end a window the way the last unref of an application would.
+class OwnedWindow : public SoTopLevelDialog {
+public:
+  ~OwnedWindow() override = default;
+};
+
+TEST(BuiltTreeEdit, windowEndsOnceWhateverWidgetsTheApplicationHandedIt)
+{
+  auto* window = new OwnedWindow;
+  window->addChild(makeLabel("a"));
+  window->buildDialog(nullptr, 0);
+  auto* label = static_cast<SoDialogLabel*>(window->getChild(0));
+  window->setCurrentFocusedWidget(label->getWidget());
+  window->setCurrentScrolledWidget(window->getBaseWidget());
+  delete window;
+}
+
+}
+
