@@ -10,7 +10,6 @@
 #include <SoDialogComponent.h>
 #include <SoDialogGroup.h>
 #include <SoFormwright.h>
-#include <SoQt.h>
 #include <SoTopLevelDialog.h>
 
 #include <Inventor/SoDB.h>
@@ -181,7 +180,6 @@ int main(int argc, char** argv)
   options.addOption({"list", "Print the tree of auditor identifiers and exit."});
   options.process(application);
 
-  SoQt::init(nullptr);
   SoFormwright::init();
   const int status = run(options);
   std::fflush(stdout);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <SoTypedObject.h>
+#include "SoTypedObject.h"
 
 // The type statics that each auditor class with a type of its own declares.
 #define SO_FORMWRIGHT_AUDITOR_HEADER(K)                                                            \

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <SoFormwrightSubNode.h>
+#include "SoFormwrightSubNode.h"
 
 #include <Inventor/SbBox3f.h>
 #include <Inventor/SbVec2i32.h>

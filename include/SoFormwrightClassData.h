@@ -1,6 +1,6 @@
 #pragma once
 
-#include <SbRenderEngineMode.h>
+#include "SbRenderEngineMode.h"
 
 #include <Inventor/SoType.h>
 #include <Inventor/threads/SbThreadAutoLock.h>

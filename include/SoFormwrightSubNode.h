@@ -4,7 +4,7 @@
 // SO_FORMWRIGHT_HEADER(ClassName) at the top of its body; its source file
 // uses the macros of the library's private SoFormwrightSubNodeSource.h.
 
-#include <SoFormwrightClassData.h>
+#include "SoFormwrightClassData.h"
 
 class SoNodekitCatalog;
 

@@ -1,6 +1,6 @@
 #include <SoFormwrightClassData.h>
 
-#include "SoTypedObject.h"
+#include <SoTypedObject.h>
 
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/fields/SoFieldData.h>

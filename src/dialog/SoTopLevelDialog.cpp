@@ -22,6 +22,8 @@
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoSwitch.h>
 
+using Formwright::SoQt;
+
 SO_FORMWRIGHT_SOURCE(SoTopLevelDialog, SoFormwright, "TopLevelDialog")
 SO_FORMWRIGHT_CHILD_OPERATIONS(SoTopLevelDialog, SoTopComponent)
 

@@ -1,4 +1,4 @@
-#include "SoTypedObject.h"
+#include <SoTypedObject.h>
 
 #include <Inventor/errors/SoDebugError.h>
 

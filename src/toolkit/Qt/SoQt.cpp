@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QWidget>
 
+namespace Formwright {
+
 QWidget* SoQt::s_mainWidget = nullptr;
 
 void SoQt::init(QWidget* mainWidget)
@@ -41,4 +43,6 @@ void SoQt::mainLoop()
 void SoQt::exitMainLoop()
 {
   QApplication::quit();
+}
+
 }

@@ -2,6 +2,12 @@
 
 class QWidget;
 
+// The binding's classes live in a namespace of our own: an application may
+// also link the scene-graph toolkit's own Qt binding, whose classes carry the
+// same names, and the dynamic linker would then bind one library's calls to
+// the other's symbols.
+namespace Formwright {
+
 // The few services of a Qt binding that dialogs need: the application's main
 // widget, showing and hiding top-level widgets, and an event loop for
 // programs that have none of their own.
@@ -19,3 +25,5 @@ public:
 private:
   static QWidget* s_mainWidget;
 };
+
+}
