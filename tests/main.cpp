@@ -3,6 +3,8 @@
 
 #include <SoFormwright.h>
 
+#include <Inventor/SoDB.h>
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
@@ -14,5 +16,8 @@ int main(int argc, char** argv)
   SoFormwright::init();
   const int result = RUN_ALL_TESTS();
   SoFormwright::finish();
+  // Like any application, the tests end the toolkit themselves: the library
+  // leaves it running.
+  SoDB::finish();
   return result;
 }
