@@ -40,14 +40,6 @@ public:
   ~ReportOn() { SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS"); }
 };
 
-template <class Node>
-Node* makeNode()
-{
-  auto* node = new Node;
-  node->ref();
-  return node;
-}
-
 TEST(DialogAuditor, defaultBodiesReportOnlyWhenAsked)
 {
   DefaultAuditor auditor;

@@ -33,7 +33,7 @@ public:
 
 SoDialogCheckBox* makeCheckBox(const char* label, const char* onString, const char* offString)
 {
-  SoDialogCheckBox* node = makeControl<SoDialogCheckBox>();
+  SoDialogCheckBox* node = makeNode<SoDialogCheckBox>();
   node->label = label;
   node->onString = onString;
   node->offString = offString;
@@ -47,7 +47,7 @@ QCheckBox* boxOf(const ControlWindow& window)
 
 TEST(DialogCheckBox, fieldsAndFile)
 {
-  SoDialogCheckBox* node = makeControl<SoDialogCheckBox>();
+  SoDialogCheckBox* node = makeNode<SoDialogCheckBox>();
   EXPECT_FALSE(node->state.getValue());
   EXPECT_EQ(node->onString.getValue(), SbString(""));
   EXPECT_EQ(node->offString.getValue(), SbString(""));

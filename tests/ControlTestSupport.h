@@ -3,26 +3,24 @@
 // Helpers for the tests of the controls: nodes built stand-alone into a
 // plain widget, and the expected places of their pieces.
 
+#include "TestSupport.h"
+
+#include <SoDialogComponent.h>
 #include <SoFormwright.h>
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QFontMetrics>
+#include <QFrame>
+#include <QPointer>
 #include <QRect>
 #include <QResizeEvent>
 #include <QWidget>
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <vector>
-
-// Nodes are made with one reference, and never freed.
-template <class Node>
-Node* makeControl()
-{
-  auto* node = new Node;
-  node->ref();
-  return node;
-}
 
 // A window-like parent with a vertical layout, into which stand-alone
 // controls build.
@@ -76,4 +74,20 @@ inline QRect expectedBody(int frameWidth, int frameHeight, int labelColumnWidth,
   if (labelVisible)
     return QRect(labelColumnWidth + 4, 3, frameWidth - 6 - labelColumnWidth - 2, frameHeight - 6);
   return QRect(2, 3, frameWidth - 6, frameHeight - 6);
+}
+
+// A second build only refreshes; destroyWidget deletes the one frame and
+// forgets it; the next build makes a new one.
+inline void expectOneFrameThroughRebuilds(ControlWindow& window, SoDialogComponent* node, const char* frameName)
+{
+  SbVec2i32 useSize(0, 0), size(0, 0);
+  node->buildWidget(&window.widget, useSize, size, 1);
+  node->buildWidget(&window.widget, useSize, size, 1);
+  EXPECT_EQ(window.widget.findChildren<QFrame*>(frameName).size(), 1) << frameName;
+  QPointer<QWidget> frame = node->getWidget();
+  node->destroyWidget();
+  EXPECT_TRUE(frame.isNull()) << frameName;
+  EXPECT_EQ(node->getWidget(), nullptr) << frameName;
+  node->buildWidget(&window.widget, useSize, size, 1);
+  EXPECT_EQ(window.widget.findChildren<QFrame*>(frameName).size(), 1) << frameName;
 }

@@ -70,14 +70,6 @@ public:
   using SoColumnDialog::componentLayout;
 };
 
-template <class Node>
-Node* makeNode()
-{
-  auto* node = new Node;
-  node->ref();
-  return node;
-}
-
 struct Triple {
   SbVec2i32 size, min, max;
 };

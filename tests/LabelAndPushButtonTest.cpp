@@ -50,10 +50,10 @@ QRect geometryOf(const ControlWindow& window, const char* name)
 
 TEST(DialogLabel, isLeftAlignedUnlessTheFileSaysOtherwise)
 {
-  Label* node = makeControl<Label>();
+  Label* node = makeNode<Label>();
   EXPECT_EQ(node->labelAlignment.getValue(), SoFormwright::LEFT);
   EXPECT_TRUE(node->labelAlignment.isDefault()) << "a label's own alignment is not written out";
-  EXPECT_EQ(makeControl<SoDialogPushButton>()->labelAlignment.getValue(), SoFormwright::RIGHT);
+  EXPECT_EQ(makeNode<SoDialogPushButton>()->labelAlignment.getValue(), SoFormwright::RIGHT);
 
   SoSeparator* root = readScene("#Inventor V2.1 ascii\n"
                                 "DialogLabel { label \"Hello\" }\n"
@@ -71,7 +71,7 @@ TEST(DialogLabel, isLeftAlignedUnlessTheFileSaysOtherwise)
 TEST(DialogLabel, buildsItsFrameAndCentresTheTextInIt)
 {
   ControlWindow window;
-  Label* node = makeControl<Label>();
+  Label* node = makeNode<Label>();
   node->label = "Total:\\tall";
   window.build(node);
 
@@ -114,14 +114,14 @@ TEST(DialogLabel, buildsItsFrameAndCentresTheTextInIt)
 TEST(DialogLabel, emptyAndTallTextsArePlacedWithoutClamp)
 {
   ControlWindow window;
-  Label* empty = makeControl<Label>();
+  Label* empty = makeNode<Label>();
   window.build(empty);
   const int height = empty->height.getValue();
   EXPECT_EQ(geometryOf(window, "FWTSoDialogQLabelLabelWidget"),
             QRect(3, 3 + (height - 6) / 2, empty->width.getValue() - 6, 0));
   empty->destroyWidget();
 
-  Label* tall = makeControl<Label>();
+  Label* tall = makeNode<Label>();
   tall->label = "one\\ntwo\\nthree";
   window.build(tall);
   const int textHeight = 3 * QFontMetrics(SoFormwright::getFormwrightFont()).height() + 3;
@@ -134,7 +134,7 @@ TEST(DialogLabel, emptyAndTallTextsArePlacedWithoutClamp)
 
 TEST(DialogLabel, measuresNoLabelColumnAndKeepsItsSizeAtLeastTheMinimum)
 {
-  Label* node = makeControl<Label>();
+  Label* node = makeNode<Label>();
   node->label = "Caption";
   EXPECT_EQ(node->getLabelInitSize(), SbVec2i32(0, 0));
 
@@ -157,7 +157,7 @@ TEST(DialogLabel, measuresNoLabelColumnAndKeepsItsSizeAtLeastTheMinimum)
 TEST(DialogLabel, enableAndEdgeStyleShowOnlyOnceTheyChange)
 {
   ControlWindow window;
-  Label* node = makeControl<Label>();
+  Label* node = makeNode<Label>();
   node->enable = FALSE;
   node->edgeStyle = SoDialogComponent::SHADOW_IN;
   window.build(node);
@@ -176,7 +176,7 @@ TEST(DialogLabel, enableAndEdgeStyleShowOnlyOnceTheyChange)
 TEST(DialogLabel, destroyWidgetDeletesTheFrameOnceAndARebuildMakesANewOne)
 {
   ControlWindow window;
-  Label* node = makeControl<Label>();
+  Label* node = makeNode<Label>();
   node->label = "before";
   window.build(node);
   window.build(node);
@@ -198,7 +198,7 @@ TEST(DialogLabel, destroyWidgetDeletesTheFrameOnceAndARebuildMakesANewOne)
 TEST(DialogLabel, frameSizedByItsLayoutWritesItsSizeBack)
 {
   ControlWindow window;
-  Label* node = makeControl<Label>();
+  Label* node = makeNode<Label>();
   node->label = "Status";
   window.build(node);
   window.widget.resize(300, 120);
@@ -218,7 +218,7 @@ TEST(DialogLabel, frameSizedByItsLayoutWritesItsSizeBack)
 TEST(DialogPushButton, buildsButtonAndLabelInItsFrame)
 {
   ControlWindow window;
-  SoDialogPushButton* node = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
   node->label = "Name:";
   node->buttonLabel = "Press \\\"me\\\"";
   window.build(node);
@@ -266,7 +266,7 @@ TEST(DialogPushButton, buildsButtonAndLabelInItsFrame)
 TEST(DialogPushButton, hidingTheLabelGivesTheButtonTheWholeFrame)
 {
   ControlWindow window;
-  SoDialogPushButton* node = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
   node->label = "Name:";
   node->buttonLabel = "Go";
   window.build(node);
@@ -282,7 +282,7 @@ TEST(DialogPushButton, hidingTheLabelGivesTheButtonTheWholeFrame)
   EXPECT_FALSE(text->isHidden());
   EXPECT_EQ(button->geometry(), QRect(column + 4, 3, 194 - column - 2, 24));
 
-  SoDialogPushButton* hidden = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* hidden = makeNode<SoDialogPushButton>();
   hidden->label = "Name:";
   hidden->labelVisibility = FALSE;
   window.build(hidden);
@@ -291,7 +291,7 @@ TEST(DialogPushButton, hidingTheLabelGivesTheButtonTheWholeFrame)
 
 TEST(DialogPushButton, naturalSizeIsTheCaptionWithItsMargins)
 {
-  SoDialogPushButton* node = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
   node->buttonLabel = "Apply";
   SbVec2i32 column(40, 0);
   node->setLabelSize(column);
@@ -299,7 +299,7 @@ TEST(DialogPushButton, naturalSizeIsTheCaptionWithItsMargins)
   SoDialogComponent* component = node;
   EXPECT_EQ(component->getComponentInitSize(), SbVec2i32(caption[0] + 12, caption[1] + 12));
 
-  SoDialogPushButton* hidden = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* hidden = makeNode<SoDialogPushButton>();
   hidden->buttonLabel = "Apply";
   hidden->labelVisibility = FALSE;
   hidden->setLabelSize(column);
@@ -318,7 +318,7 @@ TEST(DialogPushButton, naturalSizeIsTheCaptionWithItsMargins)
 TEST(DialogPushButton, sizePolicyAndLimitsFollowTheFields)
 {
   ControlWindow window;
-  SoDialogPushButton* node = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
   node->fixedWidth = TRUE;
   node->width = 120;
   node->maxHeight = 50;
@@ -329,7 +329,7 @@ TEST(DialogPushButton, sizePolicyAndLimitsFollowTheFields)
   EXPECT_EQ(frame->minimumSize(), QSize(120, 25));
   EXPECT_EQ(frame->maximumSize(), QSize(120, 50));
 
-  SoDialogPushButton* tall = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* tall = makeNode<SoDialogPushButton>();
   tall->fixedHeight = TRUE;
   window.build(tall);
   EXPECT_EQ(tall->getWidget()->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
@@ -339,7 +339,7 @@ TEST(DialogPushButton, sizePolicyAndLimitsFollowTheFields)
 TEST(DialogPushButton, newCaptionShowsAtOnceAndLeavesTheSizeAlone)
 {
   ControlWindow window;
-  SoDialogPushButton* node = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
   node->buttonLabel = "OK";
   window.build(node);
   auto* button = window.find<QPushButton>("FWTSoDialogQPushButtonButtonWidget");
@@ -357,7 +357,7 @@ TEST(DialogPushButton, newCaptionShowsAtOnceAndLeavesTheSizeAlone)
 TEST(DialogPushButton, pressingFiresTheAuditorsBeforeTheRelease)
 {
   ControlWindow window;
-  SoDialogPushButton* node = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
   node->buttonLabel = "Press";
   std::vector<SoDialogPushButton*> heard;
   ButtonAuditor auditor;
@@ -380,7 +380,7 @@ TEST(DialogPushButton, pressingFiresTheAuditorsBeforeTheRelease)
 
 TEST(DialogPushButton, ownAuditorsTakeTheEventFromTheParent)
 {
-  SoDialogPushButton* node = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
   node->removeAuditor(static_cast<SoDialogPushButtonAuditor*>(nullptr)); // no list yet: harmless
   node->applyDlgCptAuditor(); // no parent, no auditor: the event ends
 
@@ -420,7 +420,7 @@ TEST(DialogPushButton, ownAuditorsTakeTheEventFromTheParent)
 TEST(DialogPushButton, destroyWidgetDeletesTheBridgeOnce)
 {
   ControlWindow window;
-  SoDialogPushButton* node = makeControl<SoDialogPushButton>();
+  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
   node->buttonLabel = "One";
   window.build(node);
   window.build(node);

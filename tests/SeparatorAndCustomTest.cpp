@@ -24,7 +24,7 @@ QFrame* lineOf(const ControlWindow& window)
 TEST(DialogSeparator, horizontalLineIsEightHighWithATwoPixelLineAtThree)
 {
   ControlWindow window;
-  SoDialogSeparator* node = makeControl<SoDialogSeparator>();
+  SoDialogSeparator* node = makeNode<SoDialogSeparator>();
   node->width = 150;
   node->height = 40;
   window.build(node);
@@ -53,7 +53,7 @@ TEST(DialogSeparator, horizontalLineIsEightHighWithATwoPixelLineAtThree)
 
 TEST(DialogSeparator, orientationShowsAtTheNextBuild)
 {
-  SoDialogSeparator* node = makeControl<SoDialogSeparator>();
+  SoDialogSeparator* node = makeNode<SoDialogSeparator>();
   SbVec2i32 size, min, max;
   node->getSize(size, min, max);
   EXPECT_EQ(size, SbVec2i32(0, 8));
@@ -78,7 +78,7 @@ TEST(DialogSeparator, orientationShowsAtTheNextBuild)
   EXPECT_EQ(lineOf(window)->frameShape(), QFrame::VLine);
   EXPECT_EQ(lineOf(window)->geometry(), QRect(3, 3, 2, 84));
 
-  SoDialogSeparator* other = makeControl<SoDialogSeparator>();
+  SoDialogSeparator* other = makeNode<SoDialogSeparator>();
   other->setOrientationHorz(0);
   other->getSize(size, min, max);
   EXPECT_EQ(size, SbVec2i32(8, 0));
@@ -89,7 +89,7 @@ TEST(DialogSeparator, orientationShowsAtTheNextBuild)
 TEST(DialogSeparator, fixedAxesAreHeldByTheMaximum)
 {
   ControlWindow window;
-  SoDialogSeparator* node = makeControl<SoDialogSeparator>();
+  SoDialogSeparator* node = makeNode<SoDialogSeparator>();
   node->fixedWidth = TRUE;
   node->width = 70;
   window.build(node);
@@ -99,7 +99,7 @@ TEST(DialogSeparator, fixedAxesAreHeldByTheMaximum)
 TEST(DialogSeparator, destroyWidgetDeletesTheBridgeOnce)
 {
   ControlWindow window;
-  SoDialogSeparator* node = makeControl<SoDialogSeparator>();
+  SoDialogSeparator* node = makeNode<SoDialogSeparator>();
   window.build(node);
   window.build(node);
   EXPECT_EQ(window.widget.findChildren<QFrame*>("FWTSoDialogQSeparatorFrame").size(), 1);
@@ -119,7 +119,7 @@ TEST(DialogSeparator, destroyWidgetDeletesTheBridgeOnce)
 TEST(DialogCustom, givesTheApplicationAFrameWithALayout)
 {
   ControlWindow window;
-  Custom* node = makeControl<Custom>();
+  Custom* node = makeNode<Custom>();
   node->width = 160;
   node->height = 60;
   node->maxHeight = 200;
@@ -154,7 +154,7 @@ TEST(DialogCustom, givesTheApplicationAFrameWithALayout)
 TEST(DialogCustom, fixedAxesUseTheSizeAsTheMaximum)
 {
   ControlWindow window;
-  Custom* node = makeControl<Custom>();
+  Custom* node = makeNode<Custom>();
   node->fixedWidth = TRUE;
   node->fixedHeight = TRUE;
   node->width = 90;
@@ -166,7 +166,7 @@ TEST(DialogCustom, fixedAxesUseTheSizeAsTheMaximum)
 TEST(DialogCustom, destroyWidgetDeletesTheFrameOnceAndTheSceneFormMakesNone)
 {
   ControlWindow window;
-  Custom* node = makeControl<Custom>();
+  Custom* node = makeNode<Custom>();
   window.build(node);
   QPointer<QWidget> frame = node->getWidget();
   node->destroyWidget();
@@ -178,7 +178,7 @@ TEST(DialogCustom, destroyWidgetDeletesTheFrameOnceAndTheSceneFormMakesNone)
   ASSERT_NE(node->getWidget(), nullptr);
   EXPECT_EQ(static_cast<QBoxLayout*>(node->getLayout())->parentWidget(), node->getWidget());
 
-  Custom* inScene = makeControl<Custom>();
+  Custom* inScene = makeNode<Custom>();
   window.build(inScene, 0);
   EXPECT_EQ(inScene->getWidget(), nullptr);
   EXPECT_EQ(inScene->getLayout(), nullptr);

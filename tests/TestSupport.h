@@ -45,6 +45,15 @@ private:
   std::vector<std::string> m_messages;
 };
 
+// Nodes are made with one reference, and never freed.
+template <class Node>
+Node* makeNode()
+{
+  auto* node = new Node;
+  node->ref();
+  return node;
+}
+
 // Reads a scene from text; the result holds one reference, or is null.
 inline SoSeparator* readScene(const std::string& text)
 {

@@ -49,14 +49,6 @@ private:
   SoFieldData* m_fields;
 };
 
-template <class Node>
-Node* makeNode()
-{
-  auto* node = new Node;
-  node->ref();
-  return node;
-}
-
 QFontMetrics libraryMetrics()
 {
   return QFontMetrics(SoFormwright::getFormwrightFont());
