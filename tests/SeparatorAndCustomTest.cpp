@@ -4,17 +4,10 @@
 #include <SoDialogCustom.h>
 #include <SoDialogSeparator.h>
 
-#include <QFrame>
 #include <QLabel>
-#include <QPointer>
 #include <gtest/gtest.h>
 
 namespace {
-
-class Custom : public SoDialogCustom {
-public:
-  using SoDialogCustom::buildMode;
-};
 
 QFrame* lineOf(const ControlWindow& window)
 {
@@ -49,6 +42,13 @@ TEST(DialogSeparator, horizontalLineIsEightHighWithATwoPixelLineAtThree)
   resizeFrame(frame, 300, 8);
   EXPECT_EQ(node->width.getValue(), 300);
   EXPECT_EQ(line->geometry(), QRect(3, 3, 294, 2));
+  expectOneFrameThroughRebuilds(window, node, "FWTSoDialogQSeparatorFrame");
+
+  SoDialogSeparator* fixed = makeNode<SoDialogSeparator>();
+  fixed->fixedWidth = TRUE;
+  fixed->width = 70;
+  window.build(fixed);
+  EXPECT_EQ(fixed->getWidget()->maximumWidth(), 70);
 }
 
 TEST(DialogSeparator, orientationShowsAtTheNextBuild)
@@ -86,40 +86,10 @@ TEST(DialogSeparator, orientationShowsAtTheNextBuild)
   EXPECT_EQ(max, SbVec2i32(8, 32767));
 }
 
-TEST(DialogSeparator, fixedAxesAreHeldByTheMaximum)
-{
-  ControlWindow window;
-  SoDialogSeparator* node = makeNode<SoDialogSeparator>();
-  node->fixedWidth = TRUE;
-  node->width = 70;
-  window.build(node);
-  EXPECT_EQ(node->getWidget()->maximumWidth(), 70);
-}
-
-TEST(DialogSeparator, destroyWidgetDeletesTheBridgeOnce)
-{
-  ControlWindow window;
-  SoDialogSeparator* node = makeNode<SoDialogSeparator>();
-  window.build(node);
-  window.build(node);
-  EXPECT_EQ(window.widget.findChildren<QFrame*>("FWTSoDialogQSeparatorFrame").size(), 1);
-  QPointer<QWidget> frame = node->getWidget();
-  node->destroyWidget();
-  EXPECT_TRUE(frame.isNull());
-  EXPECT_EQ(node->getWidget(), nullptr);
-  window.build(node);
-  EXPECT_EQ(window.widget.findChildren<QFrame*>("FWTSoDialogQSeparatorFrame").size(), 1);
-
-  SoSeparator* root = readScene("#Inventor V2.1 ascii\nDialogSeparator { width 20 }\n");
-  ASSERT_NE(root, nullptr);
-  EXPECT_TRUE(root->getChild(0)->isOfType(SoDialogSeparator::getClassTypeId()));
-  root->unref();
-}
-
 TEST(DialogCustom, givesTheApplicationAFrameWithALayout)
 {
   ControlWindow window;
-  Custom* node = makeNode<Custom>();
+  SoDialogCustom* node = makeNode<SoDialogCustom>();
   node->width = 160;
   node->height = 60;
   node->maxHeight = 200;
@@ -149,36 +119,31 @@ TEST(DialogCustom, givesTheApplicationAFrameWithALayout)
   window.build(node);
   EXPECT_EQ(node->getWidget(), frame) << "a second build keeps the frame and what it holds";
   EXPECT_EQ(own->parentWidget(), frame);
-}
 
-TEST(DialogCustom, fixedAxesUseTheSizeAsTheMaximum)
-{
-  ControlWindow window;
-  Custom* node = makeNode<Custom>();
-  node->fixedWidth = TRUE;
-  node->fixedHeight = TRUE;
-  node->width = 90;
-  node->height = 40;
-  window.build(node);
-  EXPECT_EQ(node->getWidget()->maximumSize(), QSize(90, 40));
+  SoDialogCustom* fixed = makeNode<SoDialogCustom>();
+  fixed->fixedWidth = TRUE;
+  fixed->fixedHeight = TRUE;
+  fixed->width = 90;
+  fixed->height = 40;
+  window.build(fixed);
+  EXPECT_EQ(fixed->getWidget()->maximumSize(), QSize(90, 40)) << "fixed axes use the size as the maximum";
 }
 
 TEST(DialogCustom, destroyWidgetDeletesTheFrameOnceAndTheSceneFormMakesNone)
 {
   ControlWindow window;
-  Custom* node = makeNode<Custom>();
+  SoDialogCustom* node = makeNode<SoDialogCustom>();
   window.build(node);
   QPointer<QWidget> frame = node->getWidget();
   node->destroyWidget();
   EXPECT_TRUE(frame.isNull());
   EXPECT_EQ(node->getWidget(), nullptr);
   EXPECT_EQ(node->getLayout(), nullptr) << "the layout went with the frame";
-  EXPECT_EQ(node->buildMode, 0);
   window.build(node);
   ASSERT_NE(node->getWidget(), nullptr);
   EXPECT_EQ(static_cast<QBoxLayout*>(node->getLayout())->parentWidget(), node->getWidget());
 
-  Custom* inScene = makeNode<Custom>();
+  SoDialogCustom* inScene = makeNode<SoDialogCustom>();
   window.build(inScene, 0);
   EXPECT_EQ(inScene->getWidget(), nullptr);
   EXPECT_EQ(inScene->getLayout(), nullptr);
