@@ -50,6 +50,48 @@ struct ControlWindow {
   }
 };
 
+// A component of a chosen natural size that counts its change calls and,
+// like a control, can make a frame of its own once its layout stands.
+class ProbeComponent : public SoDialogComponent {
+public:
+  using SoDialogComponent::buildMode;
+  using SoDialogComponent::componentInitSize;
+  using SoDialogComponent::componentLayout;
+  using SoDialogComponent::componentSize;
+  using SoDialogComponent::labelSize;
+  using SoDialogComponent::layoutSpacer;
+
+  SbVec2i32 initSize{40, 20};
+  bool makesFrame = false;
+  int changes2D = 0, changes3D = 0, enabledState = -1;
+
+  void build(QWidget* parent, int mode = 1, SbVec2i32 useSize = SbVec2i32(0, 0), SbVec2i32 size = SbVec2i32(0, 0))
+  {
+    buildWidget(parent, useSize, size, mode);
+  }
+  SbVec2i32 getComponentInitSize() override { return initSize; }
+  void changeWidgetEnable(int enabled) override { enabledState = enabled; }
+
+protected:
+  void updateComponentWidget() override
+  {
+    if (!makesFrame || componentWidget != parentWidget)
+      return;
+    componentWidget = new QFrame(componentWidget);
+    componentWidget->setObjectName("probeFrame");
+    componentLayout->addWidget(componentWidget, 0);
+    componentLayout->addItem(layoutSpacer);
+  }
+  void changeLabelVisibility() override { ++changes2D; }
+  void changeEdgeStyle() override
+  {
+    ++changes2D;
+    SoDialogComponent::changeEdgeStyle();
+  }
+  void change3DLabelVisibility() override { ++changes3D; }
+  void change3DEdgeStyle() override { ++changes3D; }
+};
+
 // The pixel size of a text as the library measures a one-line label.
 inline SbVec2i32 textPixels(const char* text)
 {
