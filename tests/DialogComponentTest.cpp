@@ -218,21 +218,22 @@ TEST(DialogComponent, componentLayoutRunsAcrossAWindowAndDownAColumn)
   Column* column = makeNode<Column>();
   column->componentLayout = new QHBoxLayout;
   window.layout->addLayout(column->componentLayout);
-  const auto buildInColumn = [&](int height, int maxHeight, bool fixedHeight) {
+  const struct {
+    int height, maxHeight;
+    bool fixedHeight;
+    QSizePolicy::Policy spacer;
+  } cases[] = {{0, 0, false, QSizePolicy::Fixed}, {40, 40, false, QSizePolicy::Expanding}, {0, 0, true, QSizePolicy::Expanding}};
+  for (const auto& c : cases) {
     ProbeComponent* child = makeComponent();
     child->setParent(column);
-    child->height = height;
-    child->maxHeight = maxHeight;
-    child->fixedHeight = fixedHeight;
+    child->height = c.height;
+    child->maxHeight = c.maxHeight;
+    child->fixedHeight = c.fixedHeight;
     child->build(&window.widget);
-    return child;
-  };
-  ProbeComponent* loose = buildInColumn(0, 0, false);
-  EXPECT_NE(qobject_cast<QVBoxLayout*>(loose->componentLayout), nullptr);
-  EXPECT_EQ(loose->componentLayout->parent(), column->componentLayout);
-  EXPECT_EQ(loose->layoutSpacer->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-  EXPECT_EQ(buildInColumn(40, 40, false)->layoutSpacer->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
-  EXPECT_EQ(buildInColumn(0, 0, true)->layoutSpacer->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    EXPECT_NE(qobject_cast<QVBoxLayout*>(child->componentLayout), nullptr);
+    EXPECT_EQ(child->componentLayout->parent(), column->componentLayout);
+    EXPECT_EQ(child->layoutSpacer->sizePolicy().verticalPolicy(), c.spacer) << c.height << " " << c.fixedHeight;
+  }
 }
 
 TEST(DialogComponent, edgeStyleAndEnableApplyToTheControlsFrame)

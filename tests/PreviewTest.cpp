@@ -39,26 +39,25 @@ PreviewRun preview(const QStringList& arguments)
 
 const QString kExport = QString(FORMWRIGHT_EXAMPLES) + "/export.scn";
 
-TEST(Preview, screenshotHasTheSizeOfTheNegotiatedDialog)
+TEST(Preview, everyExampleRendersAtTheSizeOfItsNegotiatedDialog)
 {
   QTemporaryDir dir;
-  const QString png = dir.filePath("export.png");
-  const PreviewRun run = preview({kExport, "--screenshot", png});
-  ASSERT_EQ(run.status, 0) << run.err.toStdString();
-  QImage image(png);
-  ASSERT_FALSE(image.isNull());
+  const QStringList examples = QDir(FORMWRIGHT_EXAMPLES).entryList({"*.scn"}, QDir::Files);
+  ASSERT_FALSE(examples.isEmpty());
+  for (const QString& example : examples) {
+    const QString png = dir.filePath(example + ".png");
+    const PreviewRun run = preview({QDir(FORMWRIGHT_EXAMPLES).filePath(example), "--screenshot", png});
+    EXPECT_EQ(run.status, 0) << example.toStdString() << ": " << run.err.toStdString();
+    EXPECT_FALSE(QImage(png).isNull()) << example.toStdString();
+  }
 
   auto* dialog = static_cast<SoTopLevelDialog*>(
     SoFormwright::loadFromFile(SbString(kExport.toLocal8Bit().constData()), "exportDialog"));
   ASSERT_NE(dialog, nullptr);
   dialog->buildDialog(nullptr, 0);
-  EXPECT_EQ(image.size(), dialog->getBaseWidget()->size());
-  EXPECT_GT(image.width(), 50);
-}
+  EXPECT_EQ(QImage(dir.filePath("export.scn.png")).size(), dialog->getBaseWidget()->size());
 
-TEST(Preview, withoutAFileTheBuiltInDialogIsRenderedHeadless)
-{
-  QTemporaryDir dir;
+  // Without a file the built-in dialog is drawn into the working directory.
   QProcess process;
   process.setWorkingDirectory(dir.path());
   startHeadless(process, {});
@@ -98,19 +97,6 @@ TEST(Preview, badInputGivesOneLineAndStatusOne)
     const QStringList own = run.err.split('\n').filter("formwright-preview:");
     ASSERT_EQ(own.size(), 1) << run.err.toStdString();
     EXPECT_TRUE(own.first().startsWith(c.line)) << own.first().toStdString();
-  }
-}
-
-TEST(Preview, everyExampleOpensAndRenders)
-{
-  QTemporaryDir dir;
-  const QStringList examples = QDir(FORMWRIGHT_EXAMPLES).entryList({"*.scn"}, QDir::Files);
-  ASSERT_FALSE(examples.isEmpty());
-  for (const QString& example : examples) {
-    const QString png = dir.filePath(example + ".png");
-    const PreviewRun run = preview({QDir(FORMWRIGHT_EXAMPLES).filePath(example), "--screenshot", png});
-    EXPECT_EQ(run.status, 0) << example.toStdString() << ": " << run.err.toStdString();
-    EXPECT_FALSE(QImage(png).isNull()) << example.toStdString();
   }
 }
 

@@ -9,7 +9,6 @@
 
 #include "SoFormMode.h"
 
-#include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
@@ -384,35 +383,6 @@ TEST(WindowLayout, groupPassesItsEnabledStateToEveryChild)
   row->enable = TRUE;
   EXPECT_EQ(on->enabledState, 1);
   EXPECT_EQ(off->enabledState, 1) << "the group's value wins over the child's own";
-}
-
-TEST(WindowLayout, spareRoomIsSharedBeyondEachControlsNaturalSize)
-{
-  SoSeparator* root = readScene("#Inventor V2.1 ascii\n"
-                                "TopLevelDialog {\n"
-                                "  ColumnDialog {\n"
-                                "    RowDialog { DialogCheckBox { label \"A rather long label:\" auditorID \"wide\" } }\n"
-                                "    RowDialog { DialogCheckBox { label \"Short:\" auditorID \"narrow\" } }\n"
-                                "  }\n"
-                                "}\n");
-  ASSERT_NE(root, nullptr);
-  auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
-  window->buildDialog(nullptr, 0);
-  auto* wide = static_cast<SoDialogComponent*>(window->searchForAuditorId("wide"));
-  auto* narrow = static_cast<SoDialogComponent*>(window->searchForAuditorId("narrow"));
-  const int wideNatural = wide->width.getValue();
-  const int narrowNatural = narrow->width.getValue();
-  ASSERT_GT(wideNatural, narrowNatural + 20);
-
-  // Room for both, but less than twice the wide one: equal shares would
-  // squeeze it.
-  window->getBaseWidget()->resize(wideNatural + narrowNatural + 12 + 10, window->height.getValue());
-  window->show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(window->getBaseWidget()));
-  EXPECT_GE(wide->getWidget()->width(), wideNatural) << "the wide control is not squeezed to an equal share";
-  EXPECT_GE(narrow->getWidget()->width(), narrowNatural);
-  EXPECT_EQ(wide->width.getValue(), wide->getWidget()->width()) << "the node learns the size Qt gave";
-  window->hide();
 }
 
 }
