@@ -66,14 +66,6 @@ TEST(Preview, everyExampleRendersAtTheSizeOfItsNegotiatedDialog)
   EXPECT_FALSE(QImage(dir.filePath("formwright-preview.png")).isNull());
 }
 
-TEST(Preview, listPrintsTheTreeOfIdentifiers)
-{
-  const PreviewRun run = preview({kExport, "--list"});
-  ASSERT_EQ(run.status, 0);
-  EXPECT_TRUE(run.out.startsWith("TopLevelDialog \"exportDialog\"\n"));
-  EXPECT_TRUE(run.out.contains("\n  ColumnDialog \"\"\n    DialogPushButton \"go\"\n"));
-}
-
 TEST(Preview, badInputGivesOneLineAndStatusOne)
 {
   QTemporaryDir dir;
@@ -83,20 +75,11 @@ TEST(Preview, badInputGivesOneLineAndStatusOne)
   file.write("#Inventor V2.1 ascii\nTopLevelDialog { DialogLabel { label \"x\" }\n");
   file.close();
 
-  const struct {
-    QStringList arguments;
-    const char* line;
-  } cases[] = {
-    {{dir.filePath("missing.scn")}, "formwright-preview: cannot read "},
-    {{broken}, "formwright-preview: "},
-    {{kExport, "--id", "nothing"}, "formwright-preview: no dialog with auditorID \"nothing\" in "},
-  };
-  for (const auto& c : cases) {
-    const PreviewRun run = preview(c.arguments);
-    EXPECT_EQ(run.status, 1) << c.line;
-    const QStringList own = run.err.split('\n').filter("formwright-preview:");
-    ASSERT_EQ(own.size(), 1) << run.err.toStdString();
-    EXPECT_TRUE(own.first().startsWith(c.line)) << own.first().toStdString();
+  for (const QStringList& arguments : {QStringList{dir.filePath("missing.scn")}, QStringList{broken},
+                                        QStringList{kExport, "--id", "nothing"}}) {
+    const PreviewRun run = preview(arguments);
+    EXPECT_EQ(run.status, 1) << arguments.join(' ').toStdString();
+    EXPECT_EQ(run.err.split('\n').filter("formwright-preview:").size(), 1) << run.err.toStdString();
   }
 }
 
