@@ -19,7 +19,6 @@
 
 #include <QPushButton>
 #include <QTest>
-#include <QWidget>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -27,8 +26,7 @@
 
 namespace {
 
-// Writes down every control it hears of, with its name and the state of the
-// control at that moment.
+// Writes down every control it hears of, as "auditor:kind:identifier".
 class Recorder : public SoDialogAuditor {
 public:
   Recorder(std::vector<std::string>& log, const char* name) : m_log(log), m_name(name) {}
@@ -85,24 +83,17 @@ protected:
     outer = static_cast<SoColumnDialog*>(dialog->searchForAuditorId("outer"));
     inner = static_cast<SoRowDialog*>(dialog->searchForAuditorId("inner"));
     apply = static_cast<SoDialogPushButton*>(dialog->searchForAuditorId("apply"));
-    binary = static_cast<SoDialogCheckBox*>(dialog->searchForAuditorId("binary"));
-    ASSERT_TRUE(outer && inner && apply && binary);
+    ASSERT_TRUE(outer && inner && apply);
   }
 
   void build() { dialog->buildDialog(nullptr, 0); }
-
-  template <class Widget>
-  static Widget* widgetOf(SoDialogComponent* node)
-  {
-    return node->getWidget()->findChild<Widget*>();
-  }
+  void pressApply() { QTest::mousePress(apply->getWidget()->findChild<QPushButton*>(), Qt::LeftButton); }
 
   SoSeparator* m_root = nullptr;
   SoTopLevelDialog* dialog = nullptr;
   SoColumnDialog* outer = nullptr;
   SoRowDialog* inner = nullptr;
   SoDialogPushButton* apply = nullptr;
-  SoDialogCheckBox* binary = nullptr;
   std::vector<std::string> log;
 };
 
@@ -111,13 +102,13 @@ TEST_F(AuditorRouting, pressClimbsToTheFirstGroupWithAuditorsWhichHearInOrder)
   Recorder window(log, "window"), first(log, "first"), second(log, "second");
   dialog->addAuditor(&window);
   build();
-  QTest::mousePress(widgetOf<QPushButton>(apply), Qt::LeftButton);
+  pressApply();
   EXPECT_EQ(log, std::vector<std::string>{"window:button:apply"}) << "two groups without auditors are passed";
 
   log.clear();
   inner->addAuditor(&first);
   inner->addAuditor(&second);
-  QTest::mousePress(widgetOf<QPushButton>(apply), Qt::LeftButton);
+  pressApply();
   EXPECT_EQ(log, (std::vector<std::string>{"first:button:apply", "second:button:apply"}));
 }
 
@@ -128,7 +119,7 @@ TEST_F(AuditorRouting, controlWithItsOwnAuditorIsHeardByNoGroup)
   outer->addAuditor(&group);
   apply->addAuditor(&own);
   build();
-  QTest::mousePress(widgetOf<QPushButton>(apply), Qt::LeftButton);
+  pressApply();
   EXPECT_EQ(log, std::vector<std::string>{"own:apply"});
 
   // Firing all at once starts at the group: the button's own auditor is
@@ -143,7 +134,7 @@ TEST_F(AuditorRouting, unheardControlIsReportedByTheWindowsDefaultAuditor)
   build();
   SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
   DebugMessages messages;
-  QTest::mousePress(widgetOf<QPushButton>(apply), Qt::LeftButton);
+  pressApply();
   SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
   ASSERT_EQ(messages.count(), 1u);
   EXPECT_TRUE(messages.contains("SoDialogAuditor::dialogPushButton"));

@@ -91,16 +91,20 @@ TEST(WindowLayout, marginAndSpacingEnterTheSumsAndMaximaSaturate)
   auto* window = makeNode<SoTopLevelDialog>();
   window->margin = 5;
   window->rowSpacing = 4;
+  window->minHeight = 60;
   window->maxWidth = 0;
   window->maxHeight = 0;
   window->addChild(makeSizedLeaf(100, 30, 300, 40));
   window->addChild(makeSizedLeaf(120, 40, 200, 50));
   window->buildDialog(nullptr, 0);
   EXPECT_EQ(sizeOf(window), SbVec2i32(120 + 10, 30 + 40 + 10 + 4));
-  EXPECT_EQ(window->minWidth.getValue(), 120 + 10);
+  EXPECT_EQ(SbVec2i32(window->minWidth.getValue(), window->minHeight.getValue()), SbVec2i32(130, 60));
   EXPECT_EQ(SbVec2i32(window->maxWidth.getValue(), window->maxHeight.getValue()), SbVec2i32(310, 40 + 50 + 10 + 4));
   EXPECT_EQ(window->getBaseWidget()->size(), QSize(130, 84));
-  EXPECT_EQ(window->getBaseWidget()->minimumSize(), QSize(0, 0)) << "limits are set from the file's values";
+  EXPECT_EQ(window->getBaseWidget()->minimumSize(), QSize(0, 60)) << "the widget's limits are the file's values";
+  EXPECT_EQ(window->getLayout()->spacing(), 0) << "the layout takes the spacing only when it changes";
+  window->rowSpacing = 6;
+  EXPECT_EQ(window->getLayout()->spacing(), 6);
 
   // Columns stack across; the frame adds 6 on each axis.
   auto* column = makeNode<ExposedColumn>();
