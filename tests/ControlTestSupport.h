@@ -3,26 +3,23 @@
 // Helpers for the tests of the controls: nodes built stand-alone into a
 // plain widget, and the expected places of their pieces.
 
+#include "TestSupport.h"
+
+#include <SoDialogComponent.h>
 #include <SoFormwright.h>
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QFontMetrics>
+#include <QFrame>
+#include <QPointer>
 #include <QRect>
 #include <QResizeEvent>
 #include <QWidget>
 
-#include <algorithm>
-#include <vector>
+#include <gtest/gtest.h>
 
-// Nodes are made with one reference, and never freed.
-template <class Node>
-Node* makeControl()
-{
-  auto* node = new Node;
-  node->ref();
-  return node;
-}
+#include <algorithm>
 
 // A window-like parent with a vertical layout, into which stand-alone
 // controls build.
@@ -41,15 +38,48 @@ struct ControlWindow {
   {
     return widget.findChild<Widget*>(objectName);
   }
-  // The direct widget children of `parent`, in the order they were made.
-  static std::vector<QWidget*> childWidgets(const QWidget* parent)
+};
+
+// A component of a chosen natural size that counts its change calls and,
+// like a control, can make a frame of its own once its layout stands.
+class ProbeComponent : public SoDialogComponent {
+public:
+  using SoDialogComponent::buildMode;
+  using SoDialogComponent::componentInitSize;
+  using SoDialogComponent::componentLayout;
+  using SoDialogComponent::componentSize;
+  using SoDialogComponent::labelSize;
+  using SoDialogComponent::layoutSpacer;
+
+  SbVec2i32 initSize{40, 20};
+  bool makesFrame = false;
+  int changes2D = 0, changes3D = 0, enabledState = -1;
+
+  void build(QWidget* parent, int mode = 1, SbVec2i32 useSize = SbVec2i32(0, 0), SbVec2i32 size = SbVec2i32(0, 0))
   {
-    std::vector<QWidget*> widgets;
-    for (QObject* child : parent->children())
-      if (child->isWidgetType())
-        widgets.push_back(static_cast<QWidget*>(child));
-    return widgets;
+    buildWidget(parent, useSize, size, mode);
   }
+  SbVec2i32 getComponentInitSize() override { return initSize; }
+  void changeWidgetEnable(int enabled) override { enabledState = enabled; }
+
+protected:
+  void updateComponentWidget() override
+  {
+    if (!makesFrame || componentWidget != parentWidget)
+      return;
+    componentWidget = new QFrame(componentWidget);
+    componentWidget->setObjectName("probeFrame");
+    componentLayout->addWidget(componentWidget, 0);
+    componentLayout->addItem(layoutSpacer);
+  }
+  void changeLabelVisibility() override { ++changes2D; }
+  void changeEdgeStyle() override
+  {
+    ++changes2D;
+    SoDialogComponent::changeEdgeStyle();
+  }
+  void change3DLabelVisibility() override { ++changes3D; }
+  void change3DEdgeStyle() override { ++changes3D; }
 };
 
 // The pixel size of a text as the library measures a one-line label.
@@ -76,4 +106,20 @@ inline QRect expectedBody(int frameWidth, int frameHeight, int labelColumnWidth,
   if (labelVisible)
     return QRect(labelColumnWidth + 4, 3, frameWidth - 6 - labelColumnWidth - 2, frameHeight - 6);
   return QRect(2, 3, frameWidth - 6, frameHeight - 6);
+}
+
+// A second build only refreshes; destroyWidget deletes the one frame and
+// forgets it; the next build makes a new one.
+inline void expectOneFrameThroughRebuilds(ControlWindow& window, SoDialogComponent* node, const char* frameName)
+{
+  SbVec2i32 useSize(0, 0), size(0, 0);
+  node->buildWidget(&window.widget, useSize, size, 1);
+  node->buildWidget(&window.widget, useSize, size, 1);
+  EXPECT_EQ(window.widget.findChildren<QFrame*>(frameName).size(), 1) << frameName;
+  QPointer<QWidget> frame = node->getWidget();
+  node->destroyWidget();
+  EXPECT_TRUE(frame.isNull()) << frameName;
+  EXPECT_EQ(node->getWidget(), nullptr) << frameName;
+  node->buildWidget(&window.widget, useSize, size, 1);
+  EXPECT_EQ(window.widget.findChildren<QFrame*>(frameName).size(), 1) << frameName;
 }

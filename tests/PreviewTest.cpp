@@ -39,40 +39,31 @@ PreviewRun preview(const QStringList& arguments)
 
 const QString kExport = QString(FORMWRIGHT_EXAMPLES) + "/export.scn";
 
-TEST(Preview, screenshotHasTheSizeOfTheNegotiatedDialog)
+TEST(Preview, everyExampleRendersAtTheSizeOfItsNegotiatedDialog)
 {
   QTemporaryDir dir;
-  const QString png = dir.filePath("export.png");
-  const PreviewRun run = preview({kExport, "--screenshot", png});
-  ASSERT_EQ(run.status, 0) << run.err.toStdString();
-  QImage image(png);
-  ASSERT_FALSE(image.isNull());
+  const QStringList examples = QDir(FORMWRIGHT_EXAMPLES).entryList({"*.scn"}, QDir::Files);
+  ASSERT_FALSE(examples.isEmpty());
+  for (const QString& example : examples) {
+    const QString png = dir.filePath(example + ".png");
+    const PreviewRun run = preview({QDir(FORMWRIGHT_EXAMPLES).filePath(example), "--screenshot", png});
+    EXPECT_EQ(run.status, 0) << example.toStdString() << ": " << run.err.toStdString();
+    EXPECT_FALSE(QImage(png).isNull()) << example.toStdString();
+  }
 
   auto* dialog = static_cast<SoTopLevelDialog*>(
     SoFormwright::loadFromFile(SbString(kExport.toLocal8Bit().constData()), "exportDialog"));
   ASSERT_NE(dialog, nullptr);
   dialog->buildDialog(nullptr, 0);
-  EXPECT_EQ(image.size(), dialog->getBaseWidget()->size());
-  EXPECT_GT(image.width(), 50);
-}
+  EXPECT_EQ(QImage(dir.filePath("export.scn.png")).size(), dialog->getBaseWidget()->size());
 
-TEST(Preview, withoutAFileTheBuiltInDialogIsRenderedHeadless)
-{
-  QTemporaryDir dir;
+  // Without a file the built-in dialog is drawn into the working directory.
   QProcess process;
   process.setWorkingDirectory(dir.path());
   startHeadless(process, {});
   ASSERT_TRUE(process.waitForFinished(30000));
   EXPECT_EQ(process.exitCode(), 0);
   EXPECT_FALSE(QImage(dir.filePath("formwright-preview.png")).isNull());
-}
-
-TEST(Preview, listPrintsTheTreeOfIdentifiers)
-{
-  const PreviewRun run = preview({kExport, "--list"});
-  ASSERT_EQ(run.status, 0);
-  EXPECT_TRUE(run.out.startsWith("TopLevelDialog \"exportDialog\"\n"));
-  EXPECT_TRUE(run.out.contains("\n  ColumnDialog \"\"\n    DialogPushButton \"go\"\n"));
 }
 
 TEST(Preview, badInputGivesOneLineAndStatusOne)
@@ -84,33 +75,11 @@ TEST(Preview, badInputGivesOneLineAndStatusOne)
   file.write("#Inventor V2.1 ascii\nTopLevelDialog { DialogLabel { label \"x\" }\n");
   file.close();
 
-  const struct {
-    QStringList arguments;
-    const char* line;
-  } cases[] = {
-    {{dir.filePath("missing.scn")}, "formwright-preview: cannot read "},
-    {{broken}, "formwright-preview: "},
-    {{kExport, "--id", "nothing"}, "formwright-preview: no dialog with auditorID \"nothing\" in "},
-  };
-  for (const auto& c : cases) {
-    const PreviewRun run = preview(c.arguments);
-    EXPECT_EQ(run.status, 1) << c.line;
-    const QStringList own = run.err.split('\n').filter("formwright-preview:");
-    ASSERT_EQ(own.size(), 1) << run.err.toStdString();
-    EXPECT_TRUE(own.first().startsWith(c.line)) << own.first().toStdString();
-  }
-}
-
-TEST(Preview, everyExampleOpensAndRenders)
-{
-  QTemporaryDir dir;
-  const QStringList examples = QDir(FORMWRIGHT_EXAMPLES).entryList({"*.scn"}, QDir::Files);
-  ASSERT_FALSE(examples.isEmpty());
-  for (const QString& example : examples) {
-    const QString png = dir.filePath(example + ".png");
-    const PreviewRun run = preview({QDir(FORMWRIGHT_EXAMPLES).filePath(example), "--screenshot", png});
-    EXPECT_EQ(run.status, 0) << example.toStdString() << ": " << run.err.toStdString();
-    EXPECT_FALSE(QImage(png).isNull()) << example.toStdString();
+  for (const QStringList& arguments : {QStringList{dir.filePath("missing.scn")}, QStringList{broken},
+                                        QStringList{kExport, "--id", "nothing"}}) {
+    const PreviewRun run = preview(arguments);
+    EXPECT_EQ(run.status, 1) << arguments.join(' ').toStdString();
+    EXPECT_EQ(run.err.split('\n').filter("formwright-preview:").size(), 1) << run.err.toStdString();
   }
 }
 

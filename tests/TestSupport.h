@@ -24,6 +24,7 @@ public:
   DebugMessages& operator=(const DebugMessages&) = delete;
 
   const std::vector<std::string>& all() const { return m_messages; }
+  const std::vector<SoDebugError::Severity>& severities() const { return m_severities; }
   size_t count() const { return m_messages.size(); }
   // True when one message holds `text`.
   bool contains(const std::string& text) const
@@ -37,13 +38,25 @@ public:
 private:
   static void collect(const SoError* error, void* data)
   {
-    static_cast<DebugMessages*>(data)->m_messages.push_back(error->getDebugString().getString());
+    auto* self = static_cast<DebugMessages*>(data);
+    self->m_messages.push_back(error->getDebugString().getString());
+    self->m_severities.push_back(static_cast<const SoDebugError*>(error)->getSeverity());
   }
 
   SoErrorCB* m_previous;
   void* m_previousData;
   std::vector<std::string> m_messages;
+  std::vector<SoDebugError::Severity> m_severities;
 };
+
+// Nodes are made with one reference, and never freed.
+template <class Node>
+Node* makeNode()
+{
+  auto* node = new Node;
+  node->ref();
+  return node;
+}
 
 // Reads a scene from text; the result holds one reference, or is null.
 inline SoSeparator* readScene(const std::string& text)
