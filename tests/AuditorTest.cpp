@@ -17,7 +17,7 @@
 #include <SoPreferences.h>
 #include <SoTabDialogAuditor.h>
 
-#include "../src/dialog/SoFormwrightClassList.h"
+#include "SoFormwrightClassList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 // Dialog files written today hold UTF-8 text and older ones Latin-1: either
 // way a label shows the characters that were written, measured as shown.
 
-#include "ControlTestSupport.h"
 #include "TestSupport.h"
 
 #include <SoDialogLabel.h>
