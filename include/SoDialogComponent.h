@@ -15,6 +15,7 @@ class QSpacerItem;
 // maximum means unlimited.
 class SoDialogComponent : public SoTopComponent {
   SO_FORMWRIGHT_HEADER(SoDialogComponent)
+  SO_FORMWRIGHT_SKIN_HEADER(DialogComponent)
 
 public:
   enum EdgeStyle { NONE = 0, SHADOW_IN = 1, SHADOW_OUT = 2 };

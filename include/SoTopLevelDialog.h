@@ -26,6 +26,7 @@ class SoFormwrightChildren;
 // out its own size and its children's sizes from what the children report.
 class SoTopLevelDialog : public SoFormwright {
   SO_FORMWRIGHT_HEADER(SoTopLevelDialog)
+  SO_FORMWRIGHT_SKIN_HEADER(TopLevelDialog)
 
 public:
   enum ScrollVisibility { NEVER = 0, ALWAYS = 1, AUTO = 2 };
