@@ -26,6 +26,7 @@ class SoGetMatrixAction;
 class SoGroup;
 class SoMaterial;
 class SoPickStyle;
+class SoRayPickAction;
 class SoSearchAction;
 class SoSensor;
 class SoText3;
@@ -241,6 +242,11 @@ protected:
   // The box of `text` drawn with `props`, measured with the node's own
   // action.
   SbBox3f measure3DText(SoGroup* props, SoText3* text);
+  // A group part of the node's 3D form, made if it is missing.
+  SoGroup* get3DPart(const char* name);
+  // Gives each picked point below the node a detail that names the
+  // interface node hit and its part.
+  static void addInterfaceDetails(SoRayPickAction* action);
 
   int buildMode = 0;
   QWidget* parentWidget = nullptr;

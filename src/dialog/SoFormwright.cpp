@@ -23,6 +23,11 @@
 #include <Inventor/SoInteraction.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoGetMatrixAction.h>
+#include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/details/SoNodeKitDetail.h>
+#include <Inventor/SoPickedPoint.h>
+#include <Inventor/lists/SoPickedPointList.h>
+#include <Inventor/nodekits/SoNodekitCatalog.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/lists/SbPList.h>
@@ -339,6 +344,45 @@ SbBox3f SoFormwright::measure3DText(SoGroup* props, SoText3* text)
   const SbBox3f box = bboxAction->getBoundingBox();
   measured->unref();
   return box;
+}
+
+SoGroup* SoFormwright::get3DPart(const char* name)
+{
+  return static_cast<SoGroup*>(getAnyPart(name, TRUE));
+}
+
+void SoFormwright::addInterfaceDetails(SoRayPickAction* action)
+{
+  const SoPickedPointList& points = action->getPickedPointList();
+  for (int i = 0; i < points.getLength(); ++i) {
+    SoPickedPoint* point = points[i];
+    auto* path = static_cast<SoFullPath*>(point->getPath());
+    SoFormwright* node = nullptr;
+    int index = path->getLength() - 1;
+    for (; index >= 0; --index) {
+      if (path->getNode(index)->isOfType(getClassTypeId())) {
+        node = static_cast<SoFormwright*>(path->getNode(index));
+        break;
+      }
+    }
+    if (!node || point->getDetail(node))
+      continue;
+    auto* detail = new SoNodeKitDetail;
+    detail->setNodeKit(node);
+    const SoNodekitCatalog* catalog = node->getNodekitCatalog();
+    for (int j = path->getLength() - 1; j > index; --j) {
+      const SbString part = node->getPartString(path->getNode(j));
+      if (part.getLength() == 0)
+        continue;
+      const int number = catalog->getPartNumber(part.getString());
+      if (number == SO_CATALOG_NAME_NOT_FOUND || !catalog->isPublic(number))
+        continue;
+      detail->setPart(path->getNode(j));
+      detail->setPartName(part.getString());
+      break;
+    }
+    point->setDetail(detail, node);
+  }
 }
 
 SoFormwright* SoFormwright::getFirstTopParent(int ignoreTraversal, int acceptGroup)
