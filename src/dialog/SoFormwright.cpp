@@ -839,21 +839,28 @@ void SoFormwright::free3DSkin(SbString name)
   for (int i = 0; i < named.getLength(); ++i)
     if (named[i] != shared)
       named[i]->setName("");
-  shared->setName(SbString("_Fwt_Tmp_") + name);
+  // An emptied group left by an earlier skin that lacked the name is no
+  // one's any more.
+  const SbString kept = SbString("_Fwt_Tmp_") + name;
+  SoNodeList stale;
+  SoNode::getByName(kept.getString(), stale);
+  for (int i = 0; i < stale.getLength(); ++i)
+    stale[i]->setName("");
+  shared->setName(kept);
   if (shared->isOfType(SoGroup::getClassTypeId()))
     static_cast<SoGroup*>(shared)->removeAllChildren();
 }
 
 void SoFormwright::load3DSkin(SbString name)
 {
-  SoNodeList kept, fresh;
-  if (SoNode::getByName((SbString("_Fwt_Tmp_") + name).getString(), kept) == 0 ||
-      SoNode::getByName(name.getString(), fresh) == 0)
+  // A lookup gives the node named last: the group just freed, and the one
+  // just read.
+  SoNode* kept = SoNode::getByName((SbString("_Fwt_Tmp_") + name).getString());
+  SoNode* fresh = SoNode::getByName(name.getString());
+  if (!kept || !fresh || !kept->isOfType(SoGroup::getClassTypeId()) || !fresh->isOfType(SoGroup::getClassTypeId()))
     return;
-  if (!kept[0]->isOfType(SoGroup::getClassTypeId()) || !fresh[0]->isOfType(SoGroup::getClassTypeId()))
-    return;
-  auto* shared = static_cast<SoGroup*>(kept[0]);
-  auto* read = static_cast<SoGroup*>(fresh[0]);
+  auto* shared = static_cast<SoGroup*>(kept);
+  auto* read = static_cast<SoGroup*>(fresh);
   for (int i = 0; i < read->getNumChildren(); ++i)
     shared->addChild(read->getChild(i));
   read->setName("");
