@@ -25,6 +25,7 @@ protected:
   void setChildrenComponentSize() override;
   void setChildrenLabelSize() override;
   void changeEdgeStyle() override;
+  void update3DChildren() override;
 
   SoFieldSensor* columnSpacingSensor = nullptr;
 

@@ -12,6 +12,7 @@ class SoDialogQCheckBox;
 // between the two states.
 class SoDialogCheckBox : public SoDialogComponent {
   SO_FORMWRIGHT_HEADER(SoDialogCheckBox)
+  SO_FORMWRIGHT_SKIN_HEADER(DialogCheckBox)
 
 public:
   SoSFBool state;

@@ -5,6 +5,7 @@
 // A drop-down list of entries.
 class SoDialogComboBox : public SoDialogChoice {
   SO_FORMWRIGHT_HEADER(SoDialogComboBox)
+  SO_FORMWRIGHT_SKIN_HEADER(DialogComboBox)
 
 public:
   SoDialogComboBox();

@@ -8,6 +8,8 @@
 
 class QBoxLayout;
 class QSpacerItem;
+class SoScale;
+class SoTransform;
 
 // The labelled, sizeable frame of every control and container: a label part
 // of `labelSize` at the left, a component part of `componentSize` beside it.
@@ -15,6 +17,7 @@ class QSpacerItem;
 // maximum means unlimited.
 class SoDialogComponent : public SoTopComponent {
   SO_FORMWRIGHT_HEADER(SoDialogComponent)
+  SO_FORMWRIGHT_SKIN_HEADER(DialogComponent)
 
 public:
   enum EdgeStyle { NONE = 0, SHADOW_IN = 1, SHADOW_OUT = 2 };
@@ -51,6 +54,9 @@ public:
   virtual SbVec2i32 getLabelInitSize();
   virtual void setFocus();
   virtual void changeWidgetEnable(int enabled);
+  // A component put into a scene unbuilt builds its 3D form on the first
+  // measure of the scene.
+  void getBoundingBox(SoGetBoundingBoxAction* action) override;
 
 protected:
   virtual void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
@@ -87,6 +93,15 @@ protected:
 
   void create3DDialogComponent();
   void update3DDialogComponent();
+
+  // The 3D form's frame: the control's centre, the size of its edge block,
+  // and the lift onto the block's top.
+  SoTranslation* cptTranslation = nullptr;
+  SoScale* cptScale = nullptr;
+  SoTransform* cptTransform = nullptr;
+  float cptDepth = -1.0f;
+  // Where the last 3D build placed the control, in pixels inside its parent.
+  SbVec2i32 pixelPosition{0, 0};
 
   // The parent widget until the control makes its frame, then that frame.
   QWidget* componentWidget = nullptr;

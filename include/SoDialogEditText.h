@@ -7,6 +7,7 @@ class SoDialogEditTextAuditor;
 // A one-line or multi-line text field.
 class SoDialogEditText : public SoDialogComponent {
   SO_FORMWRIGHT_HEADER(SoDialogEditText)
+  SO_FORMWRIGHT_SKIN_HEADER(DialogEditText)
 
 public:
   SoDialogEditText();

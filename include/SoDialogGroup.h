@@ -42,6 +42,14 @@ public:
   SbVec2i32 getLabelInitSize() override;
   // Passes the group's enabled state to every child.
   void changeWidgetEnable(int enabled) override;
+  // The same in the 3D form: a child disabled by itself stays so when the
+  // group comes back.
+  void change3DWidgetEnable(int enabled) override;
+  void show3D(int show) override;
+  // Hands the group's new origin down to its children.
+  void change3DPosition() override;
+  void getBoundingBox(SoGetBoundingBoxAction* action) override;
+  void rayPick(SoRayPickAction* action) override;
   void addAuditor(SoDialogAuditor* auditor);
   void removeAuditor(SoDialogAuditor* auditor);
   // Sorts a control below the group to the group's auditors, or passes it up.
@@ -86,6 +94,10 @@ protected:
   void stackedDefaultSize(int axis, int32_t spacing, SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
   void buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode, QBoxLayout* (*makeLayout)(QWidget*),
                     const char* layoutName, int32_t spacing);
+  // Builds each child's 3D form on the group's frame.
+  virtual void update3DChildren();
+  // What rows and columns share in the 3D form, along `axis` as above.
+  void update3DStackedChildren(int axis, int32_t spacing);
   void addFrameAllowance(SbVec2i32& size, int sign) const;
   void setFrameMargins();
   void computeNewChildrenSize(int axis, SbVec2i32& newSize);

@@ -11,6 +11,7 @@ class SoDialogQPushButton;
 // soon as it is pressed.
 class SoDialogPushButton : public SoDialogComponent {
   SO_FORMWRIGHT_HEADER(SoDialogPushButton)
+  SO_FORMWRIGHT_SKIN_HEADER(DialogPushButton)
 
 public:
   // The text on the button; `label` is the text beside it.

@@ -8,6 +8,7 @@ class SoDialogQSeparator;
 // container turns it when it sizes its children.
 class SoDialogSeparator : public SoDialogComponent {
   SO_FORMWRIGHT_HEADER(SoDialogSeparator)
+  SO_FORMWRIGHT_SKIN_HEADER(DialogSeparator)
 
 public:
   SoDialogSeparator();

@@ -14,6 +14,8 @@
 
 #include <QFont>
 
+#include <initializer_list>
+
 class QWidget;
 class SbPList;
 class SoAuditor;
@@ -24,9 +26,11 @@ class SoGetMatrixAction;
 class SoGroup;
 class SoMaterial;
 class SoPickStyle;
+class SoRayPickAction;
 class SoSearchAction;
 class SoSensor;
 class SoText3;
+class SoTransform;
 class SoTranslation;
 
 // The root of every interface node: windows, groups, controls and menu
@@ -98,6 +102,9 @@ public:
   int canBeTraversed() const { return m_canBeTraversed; }
   void setCanBeTraversed(int traversable) { m_canBeTraversed = traversable; }
   SbVec3f get3DParentTranslation() const { return parentTranslation; }
+  // Puts the origin handed down by the parent at the head of the node's
+  // geometry.
+  void apply3DParentTranslation();
 
   // Called by the toolkit when the last reference goes. The node is taken
   // out of the dialog-file cache but stays in memory: bridges, auditors and
@@ -112,6 +119,39 @@ public:
   static void setFont(QFont font);
   static QFont getFormwrightFont();
   static void setWidgetFont(QWidget* widget);
+
+  // Skins: the look of the 3D form. A skin is a directory with one file per
+  // class, each DEFining the named groups that all nodes of the class share.
+  // Where no file is found, the class's built-in text stands in.
+  //
+  // The built-in text of TextProperties.scn.
+  static char* Formwright;
+  // Chooses a skin by path, or by name in the search list, and swaps every
+  // class's groups; a skin found nowhere changes nothing.
+  static void setSkin(SbString path);
+  // The search list: the installed skins below SCENICHOME first, then
+  // FORMWRIGHT_SKINS_DIR, separated by ";".
+  static SbString getSkinsDirectories();
+  static SbString getSkinsDirectory();
+  // Stores the FORMWRIGHT_SKINS_DIR preference; no skin changes by itself.
+  static void setSkinsDirectories(SbString directories);
+  static void setSkinsDirectory(SbString directories);
+  // Reloads every class's groups from the current skin.
+  static void change3DSkin();
+  // The two halves of a swap: the shared group keeps its identity and only
+  // its children change.
+  static void free3DSkin(SbString name);
+  static void load3DSkin(SbString name);
+  static int isSkinLoaded();
+  static void setSkinLoaded(int loaded);
+
+protected:
+  // Reads one skin file, or the built-in text when it cannot be read.
+  static void readDefaultSkinsParts(const SbString& file, char* builtIn);
+  // One class's swap: its DEF names freed, the file read, the names loaded.
+  static void change3DSkinParts(const char* file, char* builtIn, std::initializer_list<const char*> names);
+  // Reads the text properties the first time any node builds in 3D.
+  void loadFontProperties();
 
 protected:
   // Resolves the backslash escapes of dialog-file text. A combo box keeps its
@@ -186,6 +226,28 @@ protected:
   bool follows3DForm() const { return isBuilt3D() && canBeTraversed(); }
   static void set3DCurrentActive(SoFormwright* node);
 
+  // The height at which the layer after `node` stands: what the skin's
+  // closing translation leaves, whatever it stretched.
+  float compute3DDepth(SoNode* node);
+  // Lifts `origin` onto `node` and into the parent's origin. `depth` caches
+  // the height: -1 means not measured yet.
+  void apply3DTranslation(SoNode* node, float& depth, SbVec3f& origin);
+  // Sets `transform` to the place reached at the end of `node`'s subgraph,
+  // without its scaling.
+  void undoTransformMatrix(SoNode* node, SoTransform* transform);
+  // The measured box of a label, kept until its text changes.
+  int isLabelCachedBBox() const;
+  void setLabelCacheBBox(SbBox3f box) { labelBBox = box; }
+  SbBox3f getLabelCachedBBox() const { return labelBBox; }
+  // The box of `text` drawn with `props`, measured with the node's own
+  // action.
+  SbBox3f measure3DText(SoGroup* props, SoText3* text);
+  // A group part of the node's 3D form, made if it is missing.
+  SoGroup* get3DPart(const char* name);
+  // Gives each picked point below the node a detail that names the
+  // interface node hit and its part.
+  static void addInterfaceDetails(SoRayPickAction* action);
+
   int buildMode = 0;
   QWidget* parentWidget = nullptr;
   SoFormwright* parentNode = nullptr;
@@ -219,4 +281,10 @@ private:
   // Entries of type SoFormwrightFile, in the order the files were first read.
   static SbPList* s_fileCache;
   static void releaseFileCache();
+
+  static SoGroup* readFromFile(const SbString& file);
+  static SbString s_skinsPath;
+  static int s_skinLoaded;
+  // The first missing skin file explains at length; later ones say one line.
+  static int s_longSkinMessagePending;
 };

@@ -28,3 +28,22 @@ protected:                                                                      
   static SoFormwrightClassData s_class;                                                            \
                                                                                                    \
 private:
+
+// Declarations of a class whose 3D look comes from a skin: `skinName` is the
+// class's name without its "So", which names both its skin file
+// (skinName.scn) and the public text that stands in for a missing file.
+#define SO_FORMWRIGHT_SKIN_HEADER(skinName)                                                        \
+public:                                                                                            \
+  static char* skinName;                                                                           \
+  static int isSkinLoaded();                                                                       \
+  static void setSkinLoaded(int loaded);                                                           \
+  /* Gives the class's shared skin groups the children of the current skin. */                    \
+  static void change3DSkin();                                                                      \
+                                                                                                   \
+protected:                                                                                         \
+  /* Reads the skin the first time the class builds in 3D. */                                      \
+  static void loadSkinOnce();                                                                      \
+                                                                                                   \
+private:                                                                                           \
+  static int s_skinLoaded;                                                                         \
+  static int s_skinFirstRead;

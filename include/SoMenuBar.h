@@ -5,6 +5,7 @@
 // The menu bar of a window: a child of a window, but no labelled component.
 class SoMenuBar : public SoTopComponent {
   SO_FORMWRIGHT_HEADER(SoMenuBar)
+  SO_FORMWRIGHT_SKIN_HEADER(MenuBar)
 
 public:
   SoMenuBar();

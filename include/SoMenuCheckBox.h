@@ -7,6 +7,7 @@ class SoMenuCheckBoxAuditor;
 // A menu entry with a check mark.
 class SoMenuCheckBox : public SoMenuItem {
   SO_FORMWRIGHT_HEADER(SoMenuCheckBox)
+  SO_FORMWRIGHT_SKIN_HEADER(MenuCheckBox)
 
 public:
   SoMenuCheckBox();

@@ -5,6 +5,7 @@
 // A menu that opens from a menu bar or from another popup.
 class SoMenuPopup : public SoMenuItem {
   SO_FORMWRIGHT_HEADER(SoMenuPopup)
+  SO_FORMWRIGHT_SKIN_HEADER(MenuPopup)
 
 public:
   SoMenuPopup();

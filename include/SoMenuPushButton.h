@@ -7,6 +7,7 @@ class SoMenuPushButtonAuditor;
 // A menu entry that acts when chosen.
 class SoMenuPushButton : public SoMenuItem {
   SO_FORMWRIGHT_HEADER(SoMenuPushButton)
+  SO_FORMWRIGHT_SKIN_HEADER(MenuPushButton)
 
 public:
   SoMenuPushButton();

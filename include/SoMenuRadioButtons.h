@@ -7,6 +7,7 @@ class SoMenuRadioButtonsAuditor;
 // A group of mutually exclusive menu entries.
 class SoMenuRadioButtons : public SoMenuItem {
   SO_FORMWRIGHT_HEADER(SoMenuRadioButtons)
+  SO_FORMWRIGHT_SKIN_HEADER(MenuRadioButtons)
 
 public:
   SoMenuRadioButtons();

@@ -26,6 +26,7 @@ protected:
   void setChildrenComponentSize() override;
   void setChildrenLabelSize() override;
   void changeEdgeStyle() override;
+  void update3DChildren() override;
 
   SoFieldSensor* rowSpacingSensor = nullptr;
 

@@ -7,6 +7,7 @@ class SoTabDialogAuditor;
 // A container that shows one page of components at a time.
 class SoTabDialog : public SoDialogGroup {
   SO_FORMWRIGHT_HEADER(SoTabDialog)
+  SO_FORMWRIGHT_SKIN_HEADER(TabDialog)
 
 public:
   SoTabDialog();

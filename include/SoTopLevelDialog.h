@@ -11,10 +11,14 @@
 #include <Inventor/fields/SoSFVec3f.h>
 
 class QVBoxLayout;
+class SbPlaneProjector;
 class SoChildList;
 class SoDialogAuditor;
 class SoInput;
 class SoMenuBar;
+class SoScale;
+class SoText3;
+class SoTransform;
 class SoTopComponent;
 class SoTopLevelAuditor;
 class SoWriteAction;
@@ -26,6 +30,7 @@ class SoFormwrightChildren;
 // out its own size and its children's sizes from what the children report.
 class SoTopLevelDialog : public SoFormwright {
   SO_FORMWRIGHT_HEADER(SoTopLevelDialog)
+  SO_FORMWRIGHT_SKIN_HEADER(TopLevelDialog)
 
 public:
   enum ScrollVisibility { NEVER = 0, ALWAYS = 1, AUTO = 2 };
@@ -110,8 +115,19 @@ public:
   QWidget* getCurrentFocusedWidget() const { return currentFocusedWidget; }
   void setCurrentScrolledWidget(QWidget* widget) { currentScrolledWidget = widget; }
   QWidget* getCurrentScrolledWidget() const { return currentScrolledWidget; }
-  SbVec2i32 getTopLevelSize() const { return SbVec2i32(width.getValue(), height.getValue()); }
+  // The plate's size in scene units, z 1; zero before the first 3D build.
+  SbVec3f getTopLevelSize() const;
+  // Shows the plate or its title strip as `minimized` says, and couples the
+  // two 3D positions.
   void updateMinimizedState();
+
+  void show3D(int show) override;
+  void change3DPosition() override;
+  // A dialog put into a scene unbuilt builds its 3D form on the first
+  // measure of the scene.
+  void getBoundingBox(SoGetBoundingBoxAction* action) override;
+  // Picks and searches see the interface nodes below as leaves.
+  void rayPick(SoRayPickAction* action) override;
 
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
@@ -121,6 +137,7 @@ protected:
 
   void changeEnable() override;
   void changeLabel() override;
+  void change3DLabel() override;
   virtual int readChildren(SoInput* in);
   SbBool readInstance(SoInput* in, unsigned short flags) override;
 
@@ -180,6 +197,40 @@ private:
   void setChildrenComponentSize();
   void updateChildrenSizeDB();
   void updateChildren();
+
+  void create3DTopLevelDialog();
+  void update3DTopLevelDialog();
+  void update3DChildren();
+  void update3DChildrenPosition();
+  void update3DLabel();
+  void minimize3DDialog();
+  void restore3DDialog();
+  void show3DChildren(int show);
+  // The plate's pixel size: the dialog with its border and title.
+  SbVec2i32 plateSize() const;
+  // Where the children's origin lies: on the frame, below the title.
+  SbVec3f childrenOrigin();
+  // Makes the field that is shown drive the other one.
+  void coupleMinimizedPosition(int minimizedNow);
+  void draggerStartCallback3D();
+  void draggerMotionCallback3D();
+  void draggerFinishCallback3D();
+  static void startCB3D(void* data, SoDragger* dragger);
+  static void motionCB3D(void* data, SoDragger* dragger);
+  static void finishCB3D(void* data, SoDragger* dragger);
+
+  SoScale* frameScale = nullptr;
+  SoTranslation* frameTranslation = nullptr;
+  SoTransform* frameTransform = nullptr;
+  SoTranslation* labelTranslation = nullptr;
+  SoText3* labelText = nullptr;
+  SoTranslation* minTranslation = nullptr;
+  SbPlaneProjector* projector = nullptr;
+  SbVec3f worldStartPoint{0.0f, 0.0f, 0.0f};
+  SbVec3f startPosition{0.0f, 0.0f, 0.0f};
+  float frameDepth = -1.0f;
+  int firstMinimize = 1;
+  int pressedOnButton = 0;
 
   friend class SoFormwrightChildren<SoTopLevelDialog, SoTopComponent>;
   SoFormwrightChildren<SoTopLevelDialog, SoTopComponent> childList() const;

@@ -289,7 +289,8 @@ TEST(DialogComponent, sceneBuildEndsTheFirstBuildToo)
   ProbeComponent* node = makeComponent();
   node->width = 150;
   node->build(nullptr, 0);
-  node->build(nullptr, 0, SbVec2i32(1, 0), SbVec2i32(300, 0));
+  // A 3D build is handed the size itself, and the place.
+  node->build(nullptr, 0, SbVec2i32(300, 0), SbVec2i32(0, 0));
   ASSERT_EQ(node->width.getValue(), 300);
   node->build(nullptr, 0);
   EXPECT_EQ(recordOf(node).size, SbVec2i32(150, 0)) << "the record is taken at the first build only";

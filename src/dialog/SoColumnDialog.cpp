@@ -91,3 +91,8 @@ void SoColumnDialog::setChildrenComponentSize()
     child->setComponentSize(componentSize);
   }
 }
+
+void SoColumnDialog::update3DChildren()
+{
+  update3DStackedChildren(0, columnSpacing.getValue());
+}

@@ -1,14 +1,21 @@
 #include <SoDialogComponent.h>
 
 #include <SoColumnDialog.h>
+#include <SoRowDialog.h>
 #include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
 
 #include "SoFormwrightSubNodeSource.h"
 #include "SoSizeRules.h"
 
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/misc/SoChildList.h>
+#include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoPickStyle.h>
 #include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoScale.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoSwitch.h>
 #include <Inventor/sensors/SoFieldSensor.h>
@@ -109,12 +116,14 @@ void SoDialogComponent::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i
     setComponentSize(measured);
   }
 
+  // A 3D build is given the size itself, 0 where it is free, and the place.
+  const SbVec2i32 dictated = mode == 0 ? useSize : size;
   SbVec2i32 cur, min, max;
   getSize(cur, min, max);
   for (int axis = 0; axis < 2; ++axis) {
     if (useSize[axis] == 0)
       continue;
-    cur[axis] = size[axis];
+    cur[axis] = dictated[axis];
     if (cur[axis] < min[axis])
       cur[axis] = min[axis];
     else if (cur[axis] > max[axis])
@@ -147,6 +156,7 @@ void SoDialogComponent::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i
     }
     updateComponentWidget();
   } else {
+    pixelPosition = size;
     if (!isBuilt3D()) {
       create3DDialogComponent();
       firstBuild = 0;
@@ -384,7 +394,11 @@ void SoDialogComponent::changeMinMaxSize()
 }
 
 void SoDialogComponent::change3DLabelVisibility() {}
-void SoDialogComponent::change3DEdgeStyle() {}
+
+void SoDialogComponent::change3DEdgeStyle()
+{
+  setSwitchValue(get3DPart("edgeStyleSwitch"), edgeStyle.getValue());
+}
 
 void SoDialogComponent::changeEnable()
 {
@@ -394,5 +408,70 @@ void SoDialogComponent::changeEnable()
 
 void SoDialogComponent::changeLabelAlignment() {}
 
-void SoDialogComponent::create3DDialogComponent() {}
-void SoDialogComponent::update3DDialogComponent() {}
+void SoDialogComponent::create3DDialogComponent()
+{
+  // Built3D is the mark of each control's own create step: the frame, which
+  // every control shares, is made only once whatever the control.
+  if (cptTranslation)
+    return;
+  loadFontProperties();
+  loadSkinOnce();
+  setPartAsDefault("edgeStyleNone", "DialogComponentEdgeStyleNone", TRUE);
+  setPartAsDefault("edgeStyleShadowIn", "DialogComponentEdgeStyleShadowIn", TRUE);
+  setPartAsDefault("edgeStyleShadowOut", "DialogComponentEdgeStyleShadowOut", TRUE);
+  cptScale = new SoScale;
+  get3DPart("mainCptSeparator")->insertChild(cptScale, 0);
+  // Greying and dead picks come first, so that they reach all the control.
+  SoGroup* switchNode = get3DPart("geomSwitch");
+  cptTranslation = new SoTranslation;
+  switchNode->insertChild(cptTranslation, 0);
+  switchNode->insertChild(pickStyle, 0);
+  switchNode->insertChild(enableMaterial, 0);
+  // A row's or column's children stand on the frame through their origin.
+  if (!isOfType(SoColumnDialog::getClassTypeId()) && !isOfType(SoRowDialog::getClassTypeId())) {
+    cptTransform = new SoTransform;
+    switchNode->addChild(cptTransform);
+  }
+  change3DEdgeStyle();
+  apply3DParentTranslation();
+  cptDepth = -1.0f;
+  show3D(1);
+}
+
+void SoDialogComponent::update3DDialogComponent()
+{
+  // A child of a row, column or tab is placed from its parent's corner.
+  SbVec3f offset(0.0f, 0.0f, 0.0f);
+  if (parentNode && parentNode->canBeTraversed() &&
+      (parentNode->isOfType(SoColumnDialog::getClassTypeId()) || parentNode->isOfType(SoRowDialog::getClassTypeId()) ||
+       parentNode->isOfType(SoTabDialog::getClassTypeId()))) {
+    auto* parent = static_cast<SoDialogComponent*>(parentNode);
+    if (parent->cptTranslation)
+      offset = parent->cptTranslation->translation.getValue();
+    offset[0] -= static_cast<float>(parent->width.getValue()) / 2;
+    offset[1] += static_cast<float>(parent->height.getValue()) / 2;
+  }
+  const float w = static_cast<float>(width.getValue());
+  const float h = static_cast<float>(height.getValue());
+  cptTranslation->translation.setValue(pixelPosition[0] + w / 2 + offset[0], -pixelPosition[1] - h / 2 + offset[1],
+                                       offset[2]);
+  cptScale->scaleFactor.setValue(w, h, 1.0f);
+  if (cptTransform)
+    undoTransformMatrix(get3DPart("mainCptSeparator"), cptTransform);
+}
+
+void SoDialogComponent::getBoundingBox(SoGetBoundingBoxAction* action)
+{
+  if (!isBuilt3D()) {
+    const SbBool notified = enableNotify(FALSE);
+    // A window above that is not built yet must not follow field changes
+    // of a form it does not have.
+    SoFormwright* top = getFirstTopParent(1, 1);
+    if (top && !top->isBuilt3D() && top != this)
+      top->setCanBeTraversed(0);
+    SbVec2i32 size(0, 0), place(0, 0);
+    buildWidget(nullptr, size, place, 0);
+    enableNotify(notified);
+  }
+  SoBaseKit::doAction(action);
+}

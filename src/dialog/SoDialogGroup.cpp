@@ -9,6 +9,10 @@
 #include "SoFormwrightSubNodeSource.h"
 #include "SoSizeRules.h"
 
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/nodes/SoGroup.h>
+
 #include <QBoxLayout>
 #include <QFrame>
 #include <QSpacerItem>
@@ -230,6 +234,7 @@ void SoDialogGroup::buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32&
   } else {
     SoDialogGroup::buildWidget(parent, useSize, size, mode);
     firstSceneBuild = !isBuilt3D();
+    update3DChildren();
     setBuilt3D(1);
   }
   if (firstWidgetBuild)
@@ -261,4 +266,82 @@ void SoDialogGroup::computeNewChildrenSize(int axis, SbVec2i32& newSize)
 void SoDialogGroup::write(SoWriteAction* action)
 {
   childList().write(action, false, true);
+}
+
+void SoDialogGroup::change3DWidgetEnable(int enabled)
+{
+  SoDialogComponent::change3DWidgetEnable(enabled);
+  for (int i = 0; i < numChildren; ++i)
+    getComponent(i)->change3DWidgetEnable(enabled ? enable.getValue() : 0);
+}
+
+void SoDialogGroup::show3D(int show)
+{
+  SoDialogComponent::show3D(show);
+  for (int i = 0; i < numChildren; ++i)
+    getComponent(i)->show3D(show);
+}
+
+void SoDialogGroup::change3DPosition()
+{
+  SbVec3f origin(0.0f, 0.0f, 0.0f);
+  apply3DTranslation(get3DPart("mainCptSeparator"), cptDepth, origin);
+  for (int i = 0; i < numChildren; ++i) {
+    getComponent(i)->set3DParentTranslation(origin);
+    getComponent(i)->change3DPosition();
+  }
+}
+
+void SoDialogGroup::update3DChildren() {}
+
+void SoDialogGroup::update3DStackedChildren(int axis, int32_t spacing)
+{
+  const int across = 1 - axis;
+  SbVec2i32 size(width.getValue(), height.getValue());
+  fixSizeWithBorder(size, -1);
+  computeNewChildrenSize(axis, size);
+  // With no edge the frame has no border to keep clear.
+  const bool edgeless = edgeStyle.getValue() == NONE;
+  if (edgeless)
+    size[across] += 6;
+  const int32_t inset = margin.getValue() + (edgeless ? 0 : 3);
+  SbVec2i32 place(inset, inset);
+  SbVec3f origin(0.0f, 0.0f, 0.0f);
+  apply3DTranslation(get3DPart("mainCptSeparator"), cptDepth, origin);
+  SbVec2i32 childSize(0, 0);
+  childSize[across] = size[across] - 2 * margin.getValue();
+  for (int i = 0; i < numChildren; ++i) {
+    SoDialogComponent* child = getComponent(i);
+    child->set3DParentTranslation(origin);
+    childSize[axis] = sizeTable.childSizes[i][axis];
+    child->buildWidget(nullptr, childSize, place, 0);
+    const int32_t along = axis == 1 ? child->height.getValue() : child->width.getValue();
+    place[axis] += along + spacing;
+  }
+}
+
+void SoDialogGroup::getBoundingBox(SoGetBoundingBoxAction* action)
+{
+  if (!isBuilt3D()) {
+    const SbBool notified = enableNotify(FALSE);
+    SoFormwright* top = getFirstTopParent(1, 1);
+    if (top && !top->isBuilt3D()) {
+      // Standing for a window that is not built, the group aligns its
+      // children as a window would.
+      setChildrenLabelSize();
+      setChildrenComponentSize();
+      if (top != this)
+        top->setCanBeTraversed(0);
+    }
+    SbVec2i32 size(0, 0), place(0, 0);
+    buildWidget(nullptr, size, place, 0);
+    enableNotify(notified);
+  }
+  SoDragger::getBoundingBox(action);
+}
+
+void SoDialogGroup::rayPick(SoRayPickAction* action)
+{
+  SoDragger::rayPick(action);
+  addInterfaceDetails(action);
 }

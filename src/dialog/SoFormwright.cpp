@@ -7,28 +7,39 @@
 #include <SoDialogGroup.h>
 #include <SoTopLevelDialog.h>
 
+#include "SbFileHelper.h"
 #include "ScInitModuleCmd.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightFile.h"
 #include "SoFormwrightClassList.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoPreferences.h"
 #include "SoSFFilePathString.h"
 
 #include <Inventor/SbViewportRegion.h>
+#include <Inventor/SoPath.h>
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
 #include <Inventor/SoInteraction.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoGetMatrixAction.h>
+#include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/details/SoNodeKitDetail.h>
+#include <Inventor/SoPickedPoint.h>
+#include <Inventor/lists/SoPickedPointList.h>
+#include <Inventor/nodekits/SoNodekitCatalog.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/lists/SbPList.h>
+#include <Inventor/lists/SbStringList.h>
+#include <Inventor/lists/SoNodeList.h>
 #include <Inventor/nodekits/SoNodeKit.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoPickStyle.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoSwitch.h>
 #include <Inventor/nodes/SoText3.h>
+#include <Inventor/nodes/SoTransform.h>
 #include <Inventor/nodes/SoTranslation.h>
 #include <Inventor/sensors/SoFieldSensor.h>
 
@@ -37,7 +48,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <cstring>
 #include <string>
+#include <vector>
 
 SO_FORMWRIGHT_SOURCE(SoFormwright, SoDragger, "Formwright")
 
@@ -264,6 +277,112 @@ void SoFormwright::create3DFormwright()
     enableMaterial->ref();
   }
   labelBBox = kEmptyLabelBox;
+}
+
+void SoFormwright::apply3DParentTranslation()
+{
+  parentTranslationNode = new SoTranslation;
+  static_cast<SoGroup*>(getAnyPart("geomSeparator", TRUE))->insertChild(parentTranslationNode, 0);
+  parentTranslationNode->translation = parentTranslation;
+}
+
+void SoFormwright::apply3DTranslation(SoNode* node, float& depth, SbVec3f& origin)
+{
+  if (depth == -1.0f)
+    depth = compute3DDepth(node);
+  origin += SbVec3f(0.0f, 0.0f, depth);
+  origin += parentTranslation;
+}
+
+float SoFormwright::compute3DDepth(SoNode* node)
+{
+  auto* transform = new SoTransform;
+  transform->ref();
+  undoTransformMatrix(node, transform);
+  const float depth = transform->translation.getValue()[2];
+  transform->unref();
+  return depth;
+}
+
+void SoFormwright::undoTransformMatrix(SoNode* node, SoTransform* transform)
+{
+  if (!searchAction || !matrixAction)
+    create3DFormwright();
+  searchAction->reset();
+  searchAction->setInterest(SoSearchAction::LAST);
+  searchAction->setType(SoNode::getClassTypeId(), TRUE);
+  searchAction->apply(node);
+  SoPath* path = searchAction->getPath();
+  if (!path)
+    return;
+  path->ref();
+  matrixAction->apply(path);
+  path->unref();
+  SbVec3f translation, scale;
+  SbRotation rotation, scaleOrientation;
+  matrixAction->getMatrix().getTransform(translation, rotation, scale, scaleOrientation);
+  SbMatrix matrix;
+  matrix.setTransform(translation, rotation, SbVec3f(1.0f, 1.0f, 1.0f), scaleOrientation);
+  transform->setMatrix(matrix);
+}
+
+int SoFormwright::isLabelCachedBBox() const
+{
+  return labelBBox.getMin() != kEmptyLabelBox.getMin() || labelBBox.getMax() != kEmptyLabelBox.getMax();
+}
+
+SbBox3f SoFormwright::measure3DText(SoGroup* props, SoText3* text)
+{
+  if (!bboxAction)
+    bboxAction = new SoGetBoundingBoxAction(SbViewportRegion());
+  auto* measured = new SoSeparator;
+  measured->ref();
+  if (props)
+    measured->addChild(props);
+  measured->addChild(text);
+  bboxAction->apply(measured);
+  const SbBox3f box = bboxAction->getBoundingBox();
+  measured->unref();
+  return box;
+}
+
+SoGroup* SoFormwright::get3DPart(const char* name)
+{
+  return static_cast<SoGroup*>(getAnyPart(name, TRUE));
+}
+
+void SoFormwright::addInterfaceDetails(SoRayPickAction* action)
+{
+  const SoPickedPointList& points = action->getPickedPointList();
+  for (int i = 0; i < points.getLength(); ++i) {
+    SoPickedPoint* point = points[i];
+    auto* path = static_cast<SoFullPath*>(point->getPath());
+    SoFormwright* node = nullptr;
+    int index = path->getLength() - 1;
+    for (; index >= 0; --index) {
+      if (path->getNode(index)->isOfType(getClassTypeId())) {
+        node = static_cast<SoFormwright*>(path->getNode(index));
+        break;
+      }
+    }
+    if (!node || point->getDetail(node))
+      continue;
+    auto* detail = new SoNodeKitDetail;
+    detail->setNodeKit(node);
+    const SoNodekitCatalog* catalog = node->getNodekitCatalog();
+    for (int j = path->getLength() - 1; j > index; --j) {
+      const SbString part = node->getPartString(path->getNode(j));
+      if (part.getLength() == 0)
+        continue;
+      const int number = catalog->getPartNumber(part.getString());
+      if (number == SO_CATALOG_NAME_NOT_FOUND || !catalog->isPublic(number))
+        continue;
+      detail->setPart(path->getNode(j));
+      detail->setPartName(part.getString());
+      break;
+    }
+    point->setDetail(detail, node);
+  }
 }
 
 SoFormwright* SoFormwright::getFirstTopParent(int ignoreTraversal, int acceptGroup)
@@ -590,4 +709,179 @@ int SoFormwright::wrap3DTextLine(SoText3* node, int line, float width, SoGroup* 
   measured->removeAllChildren();
   measured->unref();
   return line;
+}
+
+// Skins.
+
+SbString SoFormwright::s_skinsPath;
+int SoFormwright::s_skinLoaded = 0;
+int SoFormwright::s_longSkinMessagePending = 1;
+
+SbString SoFormwright::getSkinsDirectories()
+{
+  SbString directories;
+  const SbString home = SoPreferences::getStringValue("SCENICHOME");
+  if (home.getLength() > 0)
+    directories = home + "/data/Formwright/skins/";
+  const SbString own = SoPreferences::getStringValue("FORMWRIGHT_SKINS_DIR");
+  if (own.getLength() > 0) {
+    if (directories.getLength() > 0)
+      directories += ";";
+    directories += own;
+  }
+  return directories;
+}
+
+SbString SoFormwright::getSkinsDirectory()
+{
+  return getSkinsDirectories();
+}
+
+void SoFormwright::setSkinsDirectories(SbString directories)
+{
+  SoPreferences::setString("FORMWRIGHT_SKINS_DIR", directories);
+}
+
+void SoFormwright::setSkinsDirectory(SbString directories)
+{
+  setSkinsDirectories(directories);
+}
+
+void SoFormwright::setSkin(SbString path)
+{
+  std::vector<SbString> candidates{path, SbString("./") + path};
+  const std::string list = SbFileHelper::toUnixPath(getSkinsDirectories()).getString();
+  size_t start = 0;
+  while (start <= list.size()) {
+    const size_t end = std::min(list.find(';', start), list.size());
+    if (end > start)
+      candidates.push_back(SbString(list.substr(start, end - start).c_str()) + "/" + path);
+    start = end + 1;
+  }
+  for (const SbString& candidate : candidates) {
+    if (SbFileHelper::isAccessible(candidate)) {
+      s_skinsPath = candidate;
+      change3DSkin();
+      return;
+    }
+  }
+}
+
+SoGroup* SoFormwright::readFromFile(const SbString& file)
+{
+  // The application's search directories are set aside, so that a skin file
+  // is only ever found in the skin directory.
+  const SbStringList& current = SoInput::getDirectories();
+  std::vector<SbString> saved;
+  for (int i = 0; i < current.getLength(); ++i)
+    saved.push_back(*current[i]);
+  SoInput::clearDirectories();
+
+  // The first read of any skin file loads the whole skin.
+  if (s_skinsPath.getLength() == 0)
+    setSkin(SoPreferences::getString("FORMWRIGHT_SKIN", "default"));
+
+  SoGroup* group = nullptr;
+  if (s_skinsPath.getLength() > 0) {
+    SoInput::addDirectoryFirst(s_skinsPath.getString());
+    SoInput input;
+    if (input.openFile(file.getString(), TRUE)) {
+      group = SoDB::readAll(&input);
+      input.closeFile();
+    }
+  }
+
+  SoInput::clearDirectories();
+  for (const SbString& directory : saved)
+    SoInput::addDirectoryLast(directory.getString());
+  return group;
+}
+
+void SoFormwright::readDefaultSkinsParts(const SbString& file, char* builtIn)
+{
+  if (SoGroup* group = readFromFile(file)) {
+    // Held for the life of the process, so that its DEF names live on.
+    group->ref();
+    return;
+  }
+  SbString text = SbString("The skin file : <") + file + "> cannot be found.";
+  if (s_longSkinMessagePending) {
+    text += "\nIMPORTANT : Internal Formwright component skin is loaded to prevent from your application to exit.\n";
+    text += "For loading your own Formwright skins, please verify the FORMWRIGHT_SKINS_DIR environment variable.";
+    s_longSkinMessagePending = 0;
+  }
+  SoDebugError::post("Formwright::readDefaultSkinsParts", "%s", text.getString());
+  // Only the DEF names of the built-in text are wanted: the nodes live on
+  // under them.
+  SoInput input;
+  input.setBuffer(builtIn, std::strlen(builtIn));
+  SoDB::readAll(&input);
+}
+
+void SoFormwright::change3DSkinParts(const char* file, char* builtIn, std::initializer_list<const char*> names)
+{
+  for (const char* name : names)
+    free3DSkin(name);
+  readDefaultSkinsParts(file, builtIn);
+  for (const char* name : names)
+    load3DSkin(name);
+}
+
+void SoFormwright::free3DSkin(SbString name)
+{
+  SoNodeList named;
+  if (SoNode::getByName(name.getString(), named) == 0)
+    return;
+  // The group that parts were given is the one a lookup finds. Any older
+  // node of the name is a copy read twice and held by no part: it gives up
+  // the name, so that the skin read next is the only one to carry it.
+  SoNode* shared = SoNode::getByName(name.getString());
+  for (int i = 0; i < named.getLength(); ++i)
+    if (named[i] != shared)
+      named[i]->setName("");
+  // An emptied group left by an earlier skin that lacked the name is no
+  // one's any more.
+  const SbString kept = SbString("_Fwt_Tmp_") + name;
+  SoNodeList stale;
+  SoNode::getByName(kept.getString(), stale);
+  for (int i = 0; i < stale.getLength(); ++i)
+    stale[i]->setName("");
+  shared->setName(kept);
+  if (shared->isOfType(SoGroup::getClassTypeId()))
+    static_cast<SoGroup*>(shared)->removeAllChildren();
+}
+
+void SoFormwright::load3DSkin(SbString name)
+{
+  // A lookup gives the node named last: the group just freed, and the one
+  // just read.
+  SoNode* kept = SoNode::getByName((SbString("_Fwt_Tmp_") + name).getString());
+  SoNode* fresh = SoNode::getByName(name.getString());
+  if (!kept || !fresh || !kept->isOfType(SoGroup::getClassTypeId()) || !fresh->isOfType(SoGroup::getClassTypeId()))
+    return;
+  auto* shared = static_cast<SoGroup*>(kept);
+  auto* read = static_cast<SoGroup*>(fresh);
+  for (int i = 0; i < read->getNumChildren(); ++i)
+    shared->addChild(read->getChild(i));
+  read->setName("");
+  shared->setName(name);
+}
+
+int SoFormwright::isSkinLoaded()
+{
+  return s_skinLoaded;
+}
+
+void SoFormwright::setSkinLoaded(int loaded)
+{
+  s_skinLoaded = loaded;
+}
+
+void SoFormwright::loadFontProperties()
+{
+  if (!s_fontPropertiesPending || isSkinLoaded())
+    return;
+  readDefaultSkinsParts("TextProperties.scn", Formwright);
+  setSkinLoaded(1);
+  s_fontPropertiesPending = 0;
 }

@@ -84,3 +84,25 @@ const SbRenderEngineMode* soFormwrightRenderEngineModeOf(long)
     createFieldList();                                                                             \
     createDefaultParts();                                                                          \
   } while (0)
+
+// The skin statics of a class, with its built-in text and its DEF names in
+// the order in which a skin change swaps them.
+#define SO_FORMWRIGHT_SKIN_SOURCE(K, skinName, builtInText, ...)                                  \
+  char* K::skinName = const_cast<char*>(builtInText);                                              \
+  int K::s_skinLoaded = 0;                                                                         \
+  int K::s_skinFirstRead = 1;                                                                      \
+  int K::isSkinLoaded() { return s_skinLoaded; }                                                   \
+  void K::setSkinLoaded(int loaded) { s_skinLoaded = loaded; }                                     \
+  void K::change3DSkin()                                                                           \
+  {                                                                                                \
+    change3DSkinParts(#skinName ".scn", skinName, {__VA_ARGS__});                                  \
+    setSkinLoaded(1);                                                                              \
+  }                                                                                                \
+  void K::loadSkinOnce()                                                                           \
+  {                                                                                                \
+    if (!s_skinFirstRead || isSkinLoaded())                                                        \
+      return;                                                                                      \
+    readDefaultSkinsParts(#skinName ".scn", skinName);                                             \
+    setSkinLoaded(1);                                                                              \
+    s_skinFirstRead = 0;                                                                           \
+  }

@@ -95,3 +95,8 @@ void SoRowDialog::setChildrenComponentSize()
     child->setComponentSize(componentSize);
   }
 }
+
+void SoRowDialog::update3DChildren()
+{
+  update3DStackedChildren(1, rowSpacing.getValue());
+}

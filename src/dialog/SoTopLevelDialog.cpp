@@ -18,9 +18,18 @@
 
 #include <cstdlib>
 
+#include <Inventor/SbPlane.h>
+#include <Inventor/SoPath.h>
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoScale.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoText3.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
+#include <Inventor/projectors/SbPlaneProjector.h>
 
 using Formwright::SoQt;
 
@@ -87,6 +96,7 @@ SoTopLevelDialog::~SoTopLevelDialog()
   delete currentScrolledWidget;
   // A dialog built inside its parent does not own that widget.
   delete window;
+  delete projector;
   for (SoFieldSensor* sensor :
        {minimizedSensor, marginSensor, modalFrameSensor, resizableSensor, rowSpacingSensor, positionSensor,
         position3DSensor, minimized3DPositionSensor, independentMinimizedPositionSensor, widthSensor, heightSensor,
@@ -135,6 +145,9 @@ void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
     defaultMinSize.setValue(minWidth.getValue(), minHeight.getValue());
     defaultMaxSize.setValue(maxWidth.getValue(), maxHeight.getValue());
   }
+  // Later builds find computed sizes in the fields, not the application's.
+  if (mode == 0)
+    captureDefaults = 0;
   setSize(cur[0], cur[1], min[0], min[1], max[0], max[1]);
   setDefaultState();
 
@@ -149,6 +162,11 @@ void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
     if (!resizable.getValue() && !buildInsideParent)
       baseWidget->setFixedSize(qtSize);
     changePosition();
+  } else {
+    if (!isBuilt3D())
+      create3DTopLevelDialog();
+    update3DTopLevelDialog();
+    update3DChildren();
   }
 
   makeFieldSensor(marginSensor, margin);
@@ -209,9 +227,15 @@ void SoTopLevelDialog::setPosition(SbVec2i32& place)
 
 void SoTopLevelDialog::updateFromSensor(SoSensor* sensor)
 {
-  if (sensor == marginSensor || sensor == resizableSensor || sensor == modalFrameSensor ||
-      sensor == independentMinimizedPositionSensor) {
+  if (sensor == marginSensor || sensor == resizableSensor || sensor == modalFrameSensor) {
     // Counted at the next negotiation; nothing to change now.
+  } else if (sensor == independentMinimizedPositionSensor) {
+    if (independentMinimizedPosition.getValue()) {
+      position3D.disconnect();
+      minimized3DPosition.disconnect();
+    } else {
+      coupleMinimizedPosition(minimized.getValue());
+    }
   } else if (sensor == widthSensor) {
     changeWidth();
   } else if (sensor == heightSensor) {
@@ -263,8 +287,6 @@ void SoTopLevelDialog::changeMinMaxSize()
   defaultMaxSize.setValue(maxWidth.getValue(), maxHeight.getValue());
 }
 
-// The minimized state only shows in the scene form.
-void SoTopLevelDialog::updateMinimizedState() {}
 
 void SoTopLevelDialog::applyAuditor(SoFormwright* control)
 {
@@ -474,4 +496,335 @@ void SoTopLevelDialog::updateAfterSceneGraphChange()
 void SoTopLevelDialog::write(SoWriteAction* action)
 {
   childList().write(action, true, false);
+}
+
+// The scene form: a plate that carries the children on its top, with a title
+// and a minimize button, dragged in its own plane.
+
+namespace {
+// The plate's border around the children, and the title strip above them.
+const int32_t kPlateBorder = 8;
+const int32_t kTitleAllowance = 27;
+const int32_t kMenuBarTitleAllowance = 12;
+const float kChildrenLeft = 4.0f;
+const float kChildrenTop = 23.0f;
+const float kMenuBarHeight = 18.0f;
+// The minimize button's centre lies this far from the top and right edges,
+// and the title starts this far from the left.
+const float kButtonInset = 12.0f;
+const float kButtonSize = 14.0f;
+const float kStripHeight = 20.0f;
+}
+
+SbVec2i32 SoTopLevelDialog::plateSize() const
+{
+  const int32_t title = widgetHasMenuBar() ? kMenuBarTitleAllowance : kTitleAllowance;
+  return SbVec2i32(width.getValue() + kPlateBorder, height.getValue() + title);
+}
+
+SbVec3f SoTopLevelDialog::getTopLevelSize() const
+{
+  return frameScale ? frameScale->scaleFactor.getValue() : SbVec3f(0.0f, 0.0f, 0.0f);
+}
+
+void SoTopLevelDialog::create3DTopLevelDialog()
+{
+  loadFontProperties();
+  loadSkinOnce();
+  setPartAsDefault("frame", "TopLevelDialogFrame", TRUE);
+  setPartAsDefault("labelProp", "DialogTextProperties", TRUE);
+  setPartAsDefault("minReleased", "TopLevelDialogMinReleased", TRUE);
+  setPartAsDefault("minPressed", "TopLevelDialogMinPressed", TRUE);
+
+  SoGroup* switchNode = get3DPart("geomSwitch");
+  SoGroup* frameGroup = get3DPart("frameSep");
+  SoGroup* labelGroup = get3DPart("labelSep");
+  SoGroup* minGroup = get3DPart("minSep");
+  frameScale = new SoScale;
+  frameGroup->insertChild(frameScale, 0);
+  frameTranslation = new SoTranslation;
+  switchNode->insertChild(frameTranslation, 0);
+  frameTransform = new SoTransform;
+  switchNode->insertChild(frameTransform, switchNode->findChild(labelGroup));
+  labelTranslation = new SoTranslation;
+  labelGroup->insertChild(labelTranslation, 0);
+
+  labelText = new SoText3;
+  labelText->parts = SoText3::FRONT;
+  labelGroup->addChild(labelText);
+  change3DLabel();
+
+  auto* buttonScale = new SoScale;
+  buttonScale->scaleFactor.setValue(kButtonSize, kButtonSize, 1.0f);
+  minGroup->insertChild(buttonScale, 0);
+  minTranslation = new SoTranslation;
+  minGroup->insertChild(minTranslation, 0);
+  setSwitchValue(get3DPart("minSwtch"), 0);
+
+  addStartCallback(&SoTopLevelDialog::startCB3D);
+  addMotionCallback(&SoTopLevelDialog::motionCB3D);
+  addFinishCallback(&SoTopLevelDialog::finishCB3D);
+  projector = new SbPlaneProjector(SbPlane(SbVec3f(0.0f, 0.0f, 1.0f), 0.0f), FALSE);
+
+  setBuilt3D(1);
+  frameDepth = -1.0f;
+  firstMinimize = 1;
+  show3D(1);
+}
+
+void SoTopLevelDialog::update3DTopLevelDialog()
+{
+  const SbVec2i32 plate = plateSize();
+  const float w = static_cast<float>(plate[0]);
+  const float h = static_cast<float>(plate[1]);
+  const SbVec3f p = position3D.getValue();
+  frameScale->scaleFactor.setValue(w, h, 1.0f);
+  frameTranslation->translation.setValue(p[0] + w / 2, -p[1] - h / 2, p[2]);
+  minTranslation->translation.setValue(w / 2 - kButtonInset, h / 2 - kButtonInset, 0.0f);
+  undoTransformMatrix(get3DPart("frameSep"), frameTransform);
+  update3DLabel();
+}
+
+void SoTopLevelDialog::update3DLabel()
+{
+  if (!isLabelCachedBBox())
+    setLabelCacheBBox(measure3DText(get3DPart("labelProp"), labelText));
+  const SbBox3f box = getLabelCachedBBox();
+  const float middle = (box.getMax()[1] + box.getMin()[1]) / 2;
+  const SbVec2i32 plate = plateSize();
+  const float w = static_cast<float>(plate[0]);
+  const float h = static_cast<float>(plate[1]);
+  // Level with the button's centre, or in the middle of the strip.
+  if (minimized.getValue())
+    labelTranslation->translation.setValue(-w / 2 + kButtonInset, -middle, 0.0f);
+  else
+    labelTranslation->translation.setValue(-w / 2 + kButtonInset, h / 2 - middle - kButtonInset, 0.0f);
+}
+
+SbVec3f SoTopLevelDialog::childrenOrigin()
+{
+  const SbVec3f p = position3D.getValue();
+  const float bar = widgetHasMenuBar() ? kMenuBarHeight : 0.0f;
+  SbVec3f origin(p[0] + kChildrenLeft, -p[1] - kChildrenTop - bar, p[2]);
+  apply3DTranslation(get3DPart("frameSep"), frameDepth, origin);
+  return origin;
+}
+
+void SoTopLevelDialog::update3DChildren()
+{
+  SbVec2i32 size(width.getValue(), height.getValue());
+  fixSizeWithBorder(size, -1);
+  computeNewChildrenHeight(size);
+  SbVec3f origin = childrenOrigin();
+  SbVec2i32 place(margin.getValue(), margin.getValue());
+  SbVec2i32 childSize(size[0] - 2 * margin.getValue(), 0);
+  for (int i = 0; i < numChildren; ++i) {
+    auto* child = static_cast<SoTopComponent*>((*children)[i]);
+    child->set3DParentTranslation(origin);
+    if (child->isOfType(SoMenuBar::getClassTypeId())) {
+      // The bar lies above the children, outside the stack.
+      SbVec2i32 barSize(childSize[0], 0);
+      child->buildWidget(nullptr, barSize, place, 0);
+      continue;
+    }
+    childSize[1] = sizeTable.childSizes[i][1];
+    child->buildWidget(nullptr, childSize, place, 0);
+    if (child->isOfType(SoDialogComponent::getClassTypeId()))
+      place[1] += static_cast<SoDialogComponent*>(child)->height.getValue() + rowSpacing.getValue();
+  }
+}
+
+void SoTopLevelDialog::update3DChildrenPosition()
+{
+  SbVec3f origin = childrenOrigin();
+  for (int i = 0; i < numChildren; ++i) {
+    auto* child = static_cast<SoTopComponent*>((*children)[i]);
+    child->set3DParentTranslation(origin);
+    child->change3DPosition();
+  }
+}
+
+void SoTopLevelDialog::change3DPosition()
+{
+  if (!isBuilt3D())
+    return;
+  // Halved as integers: an odd size may move the plate by half a unit when
+  // it is dragged.
+  const SbVec2i32 plate = plateSize();
+  const int32_t halfWidth = plate[0] / 2;
+  const int32_t halfHeight = plate[1] / 2;
+  if (!minimized.getValue()) {
+    const SbVec3f p = position3D.getValue();
+    frameTranslation->translation.setValue(p[0] + halfWidth, -p[1] - halfHeight, p[2]);
+    if (!hideChildren.getValue())
+      update3DChildrenPosition();
+  } else {
+    const SbVec3f m = minimized3DPosition.getValue();
+    frameTranslation->translation.setValue(m[0] + halfWidth, -m[1] - kStripHeight / 2, m[2]);
+  }
+}
+
+void SoTopLevelDialog::change3DLabel()
+{
+  if (labelText)
+    labelText->string.setValue(convertToCString(label.getValue(), nullptr));
+  SoFormwright::change3DLabel();
+}
+
+void SoTopLevelDialog::show3D(int show)
+{
+  show3DChildren(show);
+  SoFormwright::show3D(show);
+}
+
+void SoTopLevelDialog::show3DChildren(int show)
+{
+  for (int i = 0; i < numChildren; ++i)
+    static_cast<SoTopComponent*>((*children)[i])->show3D(show);
+}
+
+void SoTopLevelDialog::coupleMinimizedPosition(int minimizedNow)
+{
+  if (minimizedNow) {
+    minimized3DPosition.disconnect();
+    position3D.connectFrom(&minimized3DPosition);
+  } else {
+    position3D.disconnect();
+    minimized3DPosition.connectFrom(&position3D);
+  }
+}
+
+void SoTopLevelDialog::updateMinimizedState()
+{
+  // The minimized state only shows in the scene form.
+  if (!isBuilt3D())
+    return;
+  const int isMinimized = minimized.getValue();
+  if (firstMinimize) {
+    setFieldUnwatched(minimized3DPosition, minimized3DPositionSensor, position3D.getValue());
+    firstMinimize = 0;
+  }
+  if (!independentMinimizedPosition.getValue())
+    coupleMinimizedPosition(isMinimized);
+  show3DChildren(isMinimized);
+  if (isMinimized)
+    minimize3DDialog();
+  else
+    restore3DDialog();
+  show3DChildren(!isMinimized);
+  firstMinimize = 0;
+}
+
+void SoTopLevelDialog::minimize3DDialog()
+{
+  const float w = static_cast<float>(plateSize()[0]);
+  const SbVec3f m = minimized3DPosition.getValue();
+  frameScale->scaleFactor.setValue(w, kStripHeight, 1.0f);
+  frameTranslation->translation.setValue(m[0] + w / 2, -m[1] - kStripHeight / 2, m[2]);
+  undoTransformMatrix(get3DPart("frameSep"), frameTransform);
+  minTranslation->translation.setValue(w / 2 - kButtonInset, 0.0f, 0.0f);
+  update3DLabel();
+  if (SoMenuBar* bar = widgetHasMenuBar())
+    bar->show3D(0);
+}
+
+void SoTopLevelDialog::restore3DDialog()
+{
+  update3DTopLevelDialog();
+  if (!hideChildren.getValue())
+    update3DChildrenPosition();
+}
+
+void SoTopLevelDialog::startCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoTopLevelDialog*>(dragger)->draggerStartCallback3D();
+}
+
+void SoTopLevelDialog::motionCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoTopLevelDialog*>(dragger)->draggerMotionCallback3D();
+}
+
+void SoTopLevelDialog::finishCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoTopLevelDialog*>(dragger)->draggerFinishCallback3D();
+}
+
+void SoTopLevelDialog::draggerStartCallback3D()
+{
+  const SoPath* path = getPickPath();
+  // The toolkit forgets the pick before the release: what the press hit is
+  // kept for it.
+  pressedOnButton = path && path->containsNode(minSep.getValue());
+  if (path) {
+    if (pressedOnButton) {
+      setSwitchValue(minSwtch.getValue(), 1);
+    } else if (path->containsNode(frameSep.getValue())) {
+      worldStartPoint = getWorldStartingPoint();
+      projector->setPlane(SbPlane(SbVec3f(0.0f, 0.0f, 1.0f), getLocalStartingPoint()));
+      projector->setViewVolume(getViewVolume());
+      if (!minimized.getValue()) {
+        startPosition = position3D.getValue();
+        if (hideChildren.getValue())
+          show3DChildren(0);
+      } else {
+        startPosition = minimized3DPosition.getValue();
+      }
+    }
+  }
+  // A press on the title only takes the keyboard.
+  set3DCurrentActive(this);
+}
+
+void SoTopLevelDialog::draggerMotionCallback3D()
+{
+  const SoPath* path = getPickPath();
+  if (!path || !path->containsNode(frameSep.getValue()))
+    return;
+  projector->setWorkingSpace(getLocalToWorldMatrix());
+  const SbVec3f projected = projector->project(getNormalizedLocaterPosition());
+  const SbVec3f delta = projected - getLocalStartingPoint();
+  getLocalToWorldMatrix().multVecMatrix(projected, worldStartPoint);
+  // The fields count y downward, as pixels do.
+  const SbVec3f moved(startPosition[0] + delta[0], startPosition[1] - delta[1], startPosition[2] + delta[2]);
+  if (minimized.getValue())
+    minimized3DPosition = moved;
+  else
+    position3D = moved;
+  change3DPosition();
+}
+
+void SoTopLevelDialog::draggerFinishCallback3D()
+{
+  // Only the button acts at release, wherever the pointer has gone.
+  if (!pressedOnButton)
+    return;
+  pressedOnButton = 0;
+  setSwitchValue(minSwtch.getValue(), 0);
+  const int wasMinimized = minimized.getValue();
+  show3DChildren(wasMinimized);
+  if (hideChildren.getValue() && !wasMinimized)
+    update3DChildrenPosition();
+  minimized = !wasMinimized;
+}
+
+void SoTopLevelDialog::getBoundingBox(SoGetBoundingBoxAction* action)
+{
+  if (!isBuilt3D()) {
+    const SbBool notified = enableNotify(FALSE);
+    setChildrenLabelSize();
+    setChildrenComponentSize();
+    const int wasShown = shown3D;
+    SbVec2i32 size(0, 0), place(0, 0);
+    buildWidget(nullptr, size, place, 0);
+    show3D(wasShown);
+    enableNotify(notified);
+  }
+  SoDragger::getBoundingBox(action);
+}
+
+void SoTopLevelDialog::rayPick(SoRayPickAction* action)
+{
+  SoDragger::rayPick(action);
+  addInterfaceDetails(action);
 }

@@ -1,0 +1,356 @@
+// The 3D form, worked without a window: actions and synthetic events are
+// applied to a scene with an orthographic camera in which one scene unit is
+// one pixel of the viewport.
+
+#include "TestSupport.h"
+
+#include <SoDialogComponent.h>
+#include <SoFormwright.h>
+#include <SoRowDialog.h>
+#include <SoTopLevelDialog.h>
+
+#include "SoFormMode.h"
+
+#include <Inventor/SbViewportRegion.h>
+#include <Inventor/SoOutput.h>
+#include <Inventor/SoPickedPoint.h>
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/actions/SoHandleEventAction.h>
+#include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/actions/SoSearchAction.h>
+#include <Inventor/actions/SoWriteAction.h>
+#include <Inventor/events/SoLocation2Event.h>
+#include <Inventor/events/SoMouseButtonEvent.h>
+#include <Inventor/nodekits/SoBaseKit.h>
+#include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoOrthographicCamera.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+const int kViewport = 400;
+
+// A dialog in a scene, seen from above: the viewport's pixel (x, y), counted
+// from its lower left corner, looks at the scene point (x, y - 400).
+struct Scene {
+  SoSeparator* root = new SoSeparator;
+  SbViewportRegion viewport{kViewport, kViewport};
+
+  Scene()
+  {
+    root->ref();
+    auto* camera = new SoOrthographicCamera;
+    camera->position.setValue(kViewport / 2.0f, -kViewport / 2.0f, 100.0f);
+    camera->height = static_cast<float>(kViewport);
+    camera->nearDistance = 1.0f;
+    camera->farDistance = 200.0f;
+    root->addChild(camera);
+  }
+  ~Scene() { root->unref(); }
+
+  // A scene point as an event position.
+  static SbVec2s pixel(float x, float y) { return SbVec2s(static_cast<short>(x), static_cast<short>(y + kViewport)); }
+
+  void button(SoButtonEvent::State state, float x, float y)
+  {
+    SoMouseButtonEvent event;
+    event.setButton(SoMouseButtonEvent::BUTTON1);
+    event.setState(state);
+    event.setPosition(pixel(x, y));
+    apply(event);
+  }
+  void move(float x, float y)
+  {
+    SoLocation2Event event;
+    event.setPosition(pixel(x, y));
+    apply(event);
+  }
+  void click(float x, float y)
+  {
+    button(SoButtonEvent::DOWN, x, y);
+    button(SoButtonEvent::UP, x, y);
+  }
+  void apply(SoEvent& event)
+  {
+    event.setTime(SbTime::getTimeOfDay());
+    SoHandleEventAction action(viewport);
+    action.setEvent(&event);
+    action.apply(root);
+  }
+  // The deepest interface node under a scene point.
+  SoFormwright* pickedNode(float x, float y)
+  {
+    SoRayPickAction pick(viewport);
+    pick.setPoint(pixel(x, y));
+    pick.apply(root);
+    const SoPickedPoint* point = pick.getPickedPoint();
+    if (!point)
+      return nullptr;
+    auto* path = static_cast<SoFullPath*>(point->getPath());
+    for (int i = path->getLength() - 1; i >= 0; --i)
+      if (path->getNode(i)->isOfType(SoFormwright::getClassTypeId()))
+        return static_cast<SoFormwright*>(path->getNode(i));
+    return nullptr;
+  }
+};
+
+template <class Node>
+Node* make()
+{
+  auto* node = new Node;
+  node->ref();
+  return node;
+}
+
+// A component whose natural size is given, so that it survives the
+// forgetting of sizes that a rebuild does.
+class SizedLeaf : public SoDialogComponent {
+public:
+  SbVec2i32 natural{0, 0};
+
+protected:
+  void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override
+  {
+    size = natural;
+    min = natural;
+    max.setValue(32767, 32767);
+  }
+};
+
+SoDialogComponent* makeLeaf(int width, int height)
+{
+  auto* leaf = make<SizedLeaf>();
+  leaf->natural.setValue(width, height);
+  leaf->labelVisibility = FALSE;
+  return leaf;
+}
+
+// Builds in the scene form as the application would, through the
+// toolkit-wide choice.
+void buildInScene(SoTopLevelDialog* dialog)
+{
+  SoFormMode::setSceneForm(true);
+  dialog->buildDialog(nullptr, 0);
+  SoFormMode::setSceneForm(false);
+}
+
+// The centre of a node's geometry in the scene.
+SbVec3f centreOf(SoNode* node)
+{
+  SoGetBoundingBoxAction box{SbViewportRegion()};
+  box.apply(node);
+  return box.getBoundingBox().getCenter();
+}
+
+class CountingDialog : public SoTopLevelDialog {
+public:
+  int inactiveCalls = 0;
+
+protected:
+  void set3DInactive() override
+  {
+    ++inactiveCalls;
+    SoTopLevelDialog::set3DInactive();
+  }
+};
+
+TEST(SceneForm, aSecondBuildKeepsComputedSizesOutOfTheFile)
+{
+  auto* dialog = make<SoTopLevelDialog>();
+  SoDialogComponent* child = makeLeaf(100, 30);
+  dialog->addChild(child);
+  buildInScene(dialog);
+  buildInScene(dialog);
+  EXPECT_TRUE(child->width.isDefault());
+  EXPECT_TRUE(child->height.isDefault());
+  EXPECT_TRUE(dialog->width.isDefault());
+  EXPECT_TRUE(dialog->height.isDefault());
+
+  SoOutput out;
+  out.setBuffer(malloc(1), 1, realloc);
+  SoWriteAction writer(&out);
+  writer.apply(dialog);
+  void* buffer = nullptr;
+  size_t size = 0;
+  out.getBuffer(buffer, size);
+  const std::string text(static_cast<char*>(buffer), size);
+  EXPECT_EQ(text.find("width"), std::string::npos) << text;
+  EXPECT_EQ(text.find("height"), std::string::npos) << text;
+}
+
+TEST(SceneForm, aChildAddedToABuiltDialogGrowsIt)
+{
+  auto* dialog = make<SoTopLevelDialog>();
+  dialog->rowSpacing = 5;
+  dialog->windowResizedByChildren = TRUE;
+  dialog->addChild(makeLeaf(100, 30));
+  buildInScene(dialog);
+  const int before = dialog->height.getValue();
+  const SbVec3f plateBefore = dialog->getTopLevelSize();
+  dialog->addChild(makeLeaf(100, 50));
+  EXPECT_EQ(dialog->height.getValue(), before + 50 + 5);
+  EXPECT_FLOAT_EQ(dialog->getTopLevelSize()[1], plateBefore[1] + 55.0f) << "the plate follows";
+}
+
+TEST(SceneForm, theFirstMeasureOfTheSceneBuildsAnUnbuiltDialog)
+{
+  Scene scene;
+  auto* dialog = make<SoTopLevelDialog>();
+  dialog->position3D.setValue(10.0f, 20.0f, 0.0f);
+  SoDialogComponent* child = makeLeaf(100, 30);
+  dialog->addChild(child);
+  scene.root->addChild(dialog);
+  SoGetBoundingBoxAction measure(scene.viewport);
+  measure.apply(scene.root);
+  ASSERT_TRUE(dialog->isBuilt3D());
+  // The plate: the children with a border of 4 and a title of 23.
+  const SbBox3f box = measure.getBoundingBox();
+  EXPECT_NEAR(box.getMin()[0], 10.0f, 0.001f);
+  EXPECT_FLOAT_EQ(box.getMax()[0], 10.0f + 100 + 8);
+  EXPECT_FLOAT_EQ(box.getMax()[1], -20.0f);
+  EXPECT_FLOAT_EQ(box.getMin()[1], -20.0f - 30 - 27);
+  // The child stands on the plate's top, 4 in and 23 down.
+  const SbVec3f centre = centreOf(child);
+  EXPECT_FLOAT_EQ(centre[0], 10.0f + 4 + 50);
+  EXPECT_FLOAT_EQ(centre[1], -20.0f - 23 - 15);
+  EXPECT_FLOAT_EQ(child->get3DParentTranslation()[2], 1.0f);
+}
+
+TEST(SceneForm, draggingThePlateMovesItByTheDraggedPixels)
+{
+  Scene scene;
+  auto* dialog = make<SoTopLevelDialog>();
+  dialog->position3D.setValue(20.0f, 10.0f, 0.0f);
+  SoDialogComponent* child = makeLeaf(100, 30);
+  dialog->addChild(child);
+  scene.root->addChild(dialog);
+  buildInScene(dialog);
+  const SbVec3f childBefore = centreOf(child);
+
+  // The border left of the children is plate only.
+  scene.button(SoButtonEvent::DOWN, 22.0f, -40.0f);
+  scene.move(42.0f, -50.0f);
+  scene.move(52.0f, -65.0f);
+  scene.button(SoButtonEvent::UP, 52.0f, -65.0f);
+  EXPECT_NEAR(dialog->position3D.getValue()[0], 50.0f, 0.01f);
+  EXPECT_NEAR(dialog->position3D.getValue()[1], 35.0f, 0.01f) << "y counts downward";
+  const SbVec3f childAfter = centreOf(child);
+  EXPECT_NEAR(childAfter[0] - childBefore[0], 30.0f, 0.01f) << "the children travel with the plate";
+  EXPECT_NEAR(childAfter[1] - childBefore[1], -25.0f, 0.01f);
+  EXPECT_FALSE(dialog->minimized.getValue());
+}
+
+TEST(SceneForm, theMinimizeButtonShrinksThePlateToItsStripAndBack)
+{
+  Scene scene;
+  auto* dialog = make<SoTopLevelDialog>();
+  SoDialogComponent* child = makeLeaf(100, 30);
+  dialog->addChild(child);
+  scene.root->addChild(dialog);
+  buildInScene(dialog);
+  const float plateWidth = 100 + 8;
+  EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(plateWidth, 30 + 27, 1.0f));
+
+  // The button's centre lies 12 from the top and right edges.
+  scene.click(plateWidth - 12, -12.0f);
+  ASSERT_TRUE(dialog->minimized.getValue());
+  EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(plateWidth, 20, 1.0f));
+  EXPECT_EQ(dialog->minimized3DPosition.getValue(), dialog->position3D.getValue()) << "a first strip stands in place";
+  EXPECT_EQ(scene.pickedNode(50.0f, -40.0f), nullptr) << "the children are hidden";
+
+  scene.click(plateWidth - 12, -10.0f);
+  EXPECT_FALSE(dialog->minimized.getValue());
+  EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(plateWidth, 30 + 27, 1.0f));
+  EXPECT_EQ(scene.pickedNode(50.0f, -40.0f), child);
+}
+
+TEST(SceneForm, aPressOnAnotherControlEndsTheActiveOneOnce)
+{
+  Scene scene;
+  auto* first = make<CountingDialog>();
+  first->addChild(makeLeaf(100, 30));
+  auto* second = make<CountingDialog>();
+  second->addChild(makeLeaf(100, 30));
+  second->position3D.setValue(200.0f, 0.0f, 0.0f);
+  scene.root->addChild(first);
+  scene.root->addChild(second);
+  buildInScene(first);
+  buildInScene(second);
+
+  scene.click(2.0f, -40.0f);
+  scene.click(202.0f, -40.0f);
+  EXPECT_EQ(first->inactiveCalls, 1);
+  scene.click(202.0f, -40.0f);
+  EXPECT_EQ(first->inactiveCalls, 1);
+  EXPECT_EQ(second->inactiveCalls, 0);
+}
+
+TEST(SceneForm, aDisabledGroupGreysAndDeadensItsChildrenUntilItComesBack)
+{
+  Scene scene;
+  auto* dialog = make<SoTopLevelDialog>();
+  auto* row = make<SoRowDialog>();
+  SoDialogComponent* on = makeLeaf(100, 30);
+  SoDialogComponent* off = makeLeaf(100, 30);
+  off->enable = FALSE;
+  row->addChild(on);
+  row->addChild(off);
+  dialog->addChild(row);
+  scene.root->addChild(dialog);
+  buildInScene(dialog);
+
+  const SbVec3f onCentre = centreOf(on);
+  const SbVec3f offCentre = centreOf(off);
+  EXPECT_EQ(scene.pickedNode(onCentre[0], onCentre[1]), on);
+  EXPECT_NE(scene.pickedNode(offCentre[0], offCentre[1]), off) << "disabled by itself from the start";
+
+  const auto emissive = [](SoNode* node) {
+    SoSearchAction search;
+    search.setType(SoMaterial::getClassTypeId());
+    search.setInterest(SoSearchAction::FIRST);
+    search.setSearchingAll(TRUE);
+    SoBaseKit::setSearchingChildren(TRUE);
+    search.apply(node);
+    SoBaseKit::setSearchingChildren(FALSE);
+    auto* material = static_cast<SoMaterial*>(static_cast<SoFullPath*>(search.getPath())->getTail());
+    return material->emissiveColor[0];
+  };
+
+  row->enable = FALSE;
+  EXPECT_NE(scene.pickedNode(onCentre[0], onCentre[1]), on);
+  EXPECT_EQ(emissive(on), SbColor(0.5f, 0.5f, 0.5f));
+
+  row->enable = TRUE;
+  EXPECT_EQ(scene.pickedNode(onCentre[0], onCentre[1]), on);
+  EXPECT_EQ(emissive(on), SbColor(0.0f, 0.0f, 0.0f));
+  EXPECT_NE(scene.pickedNode(offCentre[0], offCentre[1]), off) << "its own enable still says no";
+  EXPECT_EQ(emissive(off), SbColor(0.5f, 0.5f, 0.5f));
+}
+
+TEST(SceneForm, aThickerSkinFrameLiftsTheChildrenWithIt)
+{
+  QTemporaryDir skin;
+  QFile file(QDir(skin.path()).filePath("TopLevelDialog.scn"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("#Inventor V2.1 ascii\n"
+             "DEF TopLevelDialogFrame Group { Translation { translation 0 0 2.5 }  Cube { depth 5 }"
+             "  Translation { translation 0 0 2.5 } }\n"
+             "DEF TopLevelDialogMinReleased Group { Cube {} }\nDEF TopLevelDialogMinPressed Group { Cube {} }\n");
+  file.close();
+  SoFormwright::setSkin(SbString(skin.path().toUtf8().constData()));
+
+  auto* dialog = make<SoTopLevelDialog>();
+  dialog->position3D.setValue(0.0f, 0.0f, 2.0f);
+  SoDialogComponent* child = makeLeaf(100, 30);
+  dialog->addChild(child);
+  buildInScene(dialog);
+  EXPECT_FLOAT_EQ(child->get3DParentTranslation()[2], 2.0f + 5.0f);
+}
+
+} // namespace

@@ -1,0 +1,264 @@
+#include "TestSupport.h"
+
+#include <SoDialogCheckBox.h>
+#include <SoDialogComboBox.h>
+#include <SoDialogComponent.h>
+#include <SoDialogEditText.h>
+#include <SoDialogPushButton.h>
+#include <SoDialogRadioButtons.h>
+#include <SoDialogSeparator.h>
+#include <SoDialogSlider.h>
+#include <SoFormwright.h>
+#include <SoMenuBar.h>
+#include <SoMenuCheckBox.h>
+#include <SoMenuItem.h>
+#include <SoMenuPopup.h>
+#include <SoMenuPushButton.h>
+#include <SoMenuRadioButtons.h>
+#include <SoMenuSeparator.h>
+#include <SoPreferences.h>
+#include <SoTabDialog.h>
+#include <SoTopLevelDialog.h>
+
+#include <Inventor/SoPath.h>
+#include <Inventor/actions/SoGetMatrixAction.h>
+#include <Inventor/actions/SoSearchAction.h>
+#include <Inventor/lists/SoNodeList.h>
+#include <Inventor/nodes/SoGroup.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+struct SkinAccess : SoFormwright {
+  using SoFormwright::readDefaultSkinsParts;
+};
+
+struct ClassSkin {
+  const char* file;
+  char* builtIn;
+  std::vector<const char*> names;
+};
+
+const std::vector<ClassSkin>& classSkins()
+{
+  static const std::vector<ClassSkin> skins{
+    {"TextProperties.scn", SoFormwright::Formwright, {"DialogTextProperties"}},
+    {"DialogComponent.scn", SoDialogComponent::DialogComponent,
+     {"DialogComponentEdgeStyleNone", "DialogComponentEdgeStyleShadowIn", "DialogComponentEdgeStyleShadowOut"}},
+    {"DialogCheckBox.scn", SoDialogCheckBox::DialogCheckBox,
+     {"DialogCheckBoxFrame", "DialogCheckBoxStateOff", "DialogCheckBoxStateOn"}},
+    {"DialogComboBox.scn", SoDialogComboBox::DialogComboBox,
+     {"DialogComboBoxFrame", "DialogComboBoxItemFrame", "DialogComboBoxButtonReleased",
+      "DialogComboBoxButtonPressed"}},
+    {"DialogRadioButtons.scn", SoDialogRadioButtons::DialogRadioButtons,
+     {"DialogRadioButtonsFrame", "DialogRadioButtonsItemFrame", "DialogRadioButtonsStateOff",
+      "DialogRadioButtonsStateOn"}},
+    {"DialogEditText.scn", SoDialogEditText::DialogEditText,
+     {"DialogEditTextFrame", "DialogEditTextEditingFrame", "DialogEditTextDownButtonPressed",
+      "DialogEditTextDownButtonReleased", "DialogEditTextUpButtonPressed", "DialogEditTextUpButtonReleased",
+      "DialogEditTextScrollFrame", "DialogEditTextCursorFrame", "DialogEditTextCaretFrame"}},
+    {"DialogPushButton.scn", SoDialogPushButton::DialogPushButton,
+     {"DialogPushButtonReleased", "DialogPushButtonPressed"}},
+    {"DialogSeparator.scn", SoDialogSeparator::DialogSeparator,
+     {"DialogSeparatorVertical", "DialogSeparatorHorizontal"}},
+    {"DialogSlider.scn", SoDialogSlider::DialogSlider, {"DialogSliderFrame", "DialogSliderCursor"}},
+    {"TabDialog.scn", SoTabDialog::TabDialog,
+     {"TabDialogSelectedTabFrame", "TabDialogUnselectedTabFrame", "TabDialogLeftButtonPressed",
+      "TabDialogLeftButtonReleased", "TabDialogRightButtonPressed", "TabDialogRightButtonReleased",
+      "TabDialogFrame"}},
+    {"TopLevelDialog.scn", SoTopLevelDialog::TopLevelDialog,
+     {"TopLevelDialogFrame", "TopLevelDialogMinReleased", "TopLevelDialogMinPressed"}},
+    {"MenuBar.scn", SoMenuBar::MenuBar, {"MenuBarFrame"}},
+    {"MenuItem.scn", SoMenuItem::MenuItem, {"MenuItemFrame"}},
+    {"MenuCheckBox.scn", SoMenuCheckBox::MenuCheckBox, {"MenuCheckBoxStateOn", "MenuCheckBoxStateOff"}},
+    {"MenuPopup.scn", SoMenuPopup::MenuPopup,
+     {"MenuPopupPressedFrame", "MenuPopupReleasedFrame", "MenuPopupReleasedShape", "MenuPopupPressedShape"}},
+    {"MenuPushButton.scn", SoMenuPushButton::MenuPushButton, {"MenuPushButtonReleased", "MenuPushButtonPressed"}},
+    {"MenuRadioButtons.scn", SoMenuRadioButtons::MenuRadioButtons,
+     {"MenuRadioButtonsStateOn", "MenuRadioButtonsStateOff"}},
+    {"MenuSeparator.scn", SoMenuSeparator::MenuSeparator, {"MenuSeparatorFrame"}},
+  };
+  return skins;
+}
+
+const std::string kDefaultSkin = std::string(FORMWRIGHT_EXAMPLES) + "/../skins/default";
+
+// The height at the end of a skin part: where the next layer stands.
+float topOf(SoNode* part)
+{
+  SoSearchAction search;
+  search.setInterest(SoSearchAction::LAST);
+  search.setType(SoNode::getClassTypeId(), TRUE);
+  search.apply(part);
+  SoGetMatrixAction matrix{SbViewportRegion()};
+  matrix.apply(search.getPath());
+  return matrix.getMatrix()[3][2];
+}
+
+// A skin directory of one file.
+void writeSkinFile(const QTemporaryDir& dir, const char* file, const char* text)
+{
+  QFile out(QDir(dir.path()).filePath(file));
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+  out.write(text);
+}
+
+int countNamed(const char* name)
+{
+  SoNodeList nodes;
+  return SoNode::getByName(name, nodes);
+}
+
+TEST(Skins, everyBuiltInTextDefinesItsClassesGroups)
+{
+  for (const ClassSkin& skin : classSkins()) {
+    SCOPED_TRACE(skin.file);
+    SoSeparator* root = readScene(skin.builtIn);
+    ASSERT_NE(root, nullptr);
+    for (const char* name : skin.names) {
+      SoNode* node = SoNode::getByName(name);
+      ASSERT_NE(node, nullptr) << name;
+      EXPECT_TRUE(node->isOfType(SoGroup::getClassTypeId())) << name;
+      EXPECT_GT(static_cast<SoGroup*>(node)->getNumChildren(), 0) << name;
+    }
+  }
+  // The released button stands twice as high as the pressed one, so that it
+  // sinks when pressed; frames leave the next layer on their top.
+  EXPECT_FLOAT_EQ(topOf(SoNode::getByName("DialogPushButtonReleased")), 2.0f);
+  EXPECT_FLOAT_EQ(topOf(SoNode::getByName("DialogPushButtonPressed")), 1.0f);
+  EXPECT_FLOAT_EQ(topOf(SoNode::getByName("TopLevelDialogFrame")), 1.0f);
+  EXPECT_FLOAT_EQ(topOf(SoNode::getByName("TabDialogUnselectedTabFrame")), 0.8f);
+}
+
+TEST(Skins, theDefaultSkinDirectoryHoldsEveryClassesFile)
+{
+  DebugMessages messages;
+  SoFormwright::setSkin(SbString(kDefaultSkin.c_str()));
+  EXPECT_EQ(messages.count(), 0u) << (messages.count() ? messages.all().front() : "");
+  for (const ClassSkin& skin : classSkins())
+    for (const char* name : skin.names) {
+      SoNode* node = SoNode::getByName(name);
+      ASSERT_NE(node, nullptr) << name;
+      EXPECT_GT(static_cast<SoGroup*>(node)->getNumChildren(), 0) << name;
+    }
+}
+
+TEST(Skins, aSwapKeepsEachSharedGroupAndChangesItsChildren)
+{
+  QTemporaryDir red;
+  writeSkinFile(red, "TopLevelDialog.scn",
+                "#Inventor V2.1 ascii\n"
+                "DEF TopLevelDialogFrame Group { Material { diffuseColor 1 0 0 }  Translation { translation 0 0 2.5 }"
+                "  Cube { width 1 height 1 depth 5 }  Translation { translation 0 0 2.5 } }\n"
+                "DEF TopLevelDialogMinReleased Group { Cube {} }\nDEF TopLevelDialogMinPressed Group { Cube {} }\n");
+  SoFormwright::setSkin(SbString(kDefaultSkin.c_str()));
+  SoNode* shared = SoNode::getByName("TopLevelDialogFrame");
+  ASSERT_NE(shared, nullptr);
+  EXPECT_FLOAT_EQ(topOf(shared), 1.0f);
+
+  DebugMessages messages;
+  SoFormwright::setSkin(SbString(red.path().toUtf8().constData()));
+  EXPECT_EQ(SoNode::getByName("TopLevelDialogFrame"), shared);
+  EXPECT_FLOAT_EQ(topOf(shared), 5.0f);
+  EXPECT_TRUE(messages.contains("The skin file : <DialogCheckBox.scn> cannot be found."))
+    << "the classes that the skin lacks fall back on their built-in look";
+
+  SoFormwright::setSkin(SbString(kDefaultSkin.c_str()));
+  EXPECT_EQ(SoNode::getByName("TopLevelDialogFrame"), shared);
+  EXPECT_FLOAT_EQ(topOf(shared), 1.0f);
+  for (const ClassSkin& skin : classSkins())
+    for (const char* name : skin.names) {
+      EXPECT_EQ(countNamed(name), 1) << name;
+      EXPECT_EQ(countNamed((std::string("_Fwt_Tmp_") + name).c_str()), 0) << name;
+    }
+}
+
+TEST(Skins, anUnknownSkinChangesNothing)
+{
+  SoFormwright::setSkin(SbString(kDefaultSkin.c_str()));
+  SoNode* shared = SoNode::getByName("DialogCheckBoxFrame");
+  const int children = static_cast<SoGroup*>(shared)->getNumChildren();
+  DebugMessages messages;
+  SoFormwright::setSkin("no-such-skin");
+  EXPECT_EQ(messages.count(), 0u);
+  EXPECT_EQ(SoNode::getByName("DialogCheckBoxFrame"), shared);
+  EXPECT_EQ(static_cast<SoGroup*>(shared)->getNumChildren(), children);
+}
+
+TEST(Skins, aMissingOrBrokenFileFallsBackOnTheBuiltInText)
+{
+  QTemporaryDir broken;
+  writeSkinFile(broken, "DialogSeparator.scn", "#Inventor V2.1 ascii\nDEF DialogSeparatorVertical Group { Cube {");
+  SoFormwright::setSkin(SbString(broken.path().toUtf8().constData()));
+
+  DebugMessages messages;
+  SkinAccess::readDefaultSkinsParts("DialogSeparator.scn", SoDialogSeparator::DialogSeparator);
+  SkinAccess::readDefaultSkinsParts("Missing.scn", SoDialogSeparator::DialogSeparator);
+  ASSERT_EQ(messages.count(), 2u);
+  EXPECT_NE(messages.all()[0].find("The skin file : <DialogSeparator.scn> cannot be found."), std::string::npos);
+  EXPECT_EQ(messages.all()[0].find("IMPORTANT"), std::string::npos) << "only the first miss explains at length";
+  EXPECT_NE(messages.all()[1].find("The skin file : <Missing.scn> cannot be found."), std::string::npos);
+  EXPECT_EQ(messages.all()[1].find("IMPORTANT"), std::string::npos);
+  SoNode* vertical = SoNode::getByName("DialogSeparatorVertical");
+  ASSERT_NE(vertical, nullptr);
+  EXPECT_GT(static_cast<SoGroup*>(vertical)->getNumChildren(), 0);
+}
+
+TEST(Skins, theFirstMissExplainsAtLengthAndTheNextOnesDoNot)
+{
+  // With no skin to be found anywhere, each class falls back on its
+  // built-in look. Only the first miss of the process explains at length,
+  // and a test run in a process of its own sees it.
+  DebugMessages messages;
+  SkinAccess::readDefaultSkinsParts("DialogCheckBox.scn", SoDialogCheckBox::DialogCheckBox);
+  SkinAccess::readDefaultSkinsParts("DialogSeparator.scn", SoDialogSeparator::DialogSeparator);
+  ASSERT_EQ(messages.count(), 2u);
+  EXPECT_NE(messages.all()[1].find("The skin file : <DialogSeparator.scn> cannot be found."), std::string::npos);
+  EXPECT_EQ(messages.all()[1].find("IMPORTANT"), std::string::npos);
+  if (messages.all()[0].find("IMPORTANT") != std::string::npos) {
+    EXPECT_NE(messages.all()[0].find("\nIMPORTANT : Internal Formwright component skin is loaded to prevent from "
+                                     "your application to exit.\nFor loading your own Formwright skins, please "
+                                     "verify the FORMWRIGHT_SKINS_DIR environment variable."),
+              std::string::npos);
+  }
+  EXPECT_NE(SoNode::getByName("DialogCheckBoxFrame"), nullptr);
+  EXPECT_NE(SoNode::getByName("DialogSeparatorVertical"), nullptr);
+}
+
+TEST(Skins, theSearchListPutsTheInstalledSkinsFirst)
+{
+  SoPreferences::setString("SCENICHOME", "/opt/scenic");
+  SoFormwright::setSkinsDirectories("/home/me/skins;/srv/skins");
+  EXPECT_EQ(SoFormwright::getSkinsDirectories(), SbString("/opt/scenic/data/Formwright/skins/;/home/me/skins;/srv/skins"));
+  EXPECT_EQ(SoFormwright::getSkinsDirectory(), SoFormwright::getSkinsDirectories());
+  SoPreferences::setString("SCENICHOME", "");
+  EXPECT_EQ(SoFormwright::getSkinsDirectories(), SbString("/home/me/skins;/srv/skins"));
+  SoPreferences::unsetString("SCENICHOME");
+  SoPreferences::unsetString("FORMWRIGHT_SKINS_DIR");
+}
+
+TEST(Skins, aSkinIsFoundByNameInTheSearchList)
+{
+  QTemporaryDir home;
+  ASSERT_TRUE(QDir(home.path()).mkpath("data/Formwright/skins/blue"));
+  QFile out(QDir(home.path()).filePath("data/Formwright/skins/blue/MenuBar.scn"));
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+  out.write("#Inventor V2.1 ascii\nDEF MenuBarFrame Group { Sphere {} }\n");
+  out.close();
+  SoPreferences::setString("SCENICHOME", home.path().toUtf8().constData());
+  SoFormwright::setSkin("blue");
+  SoPreferences::unsetString("SCENICHOME");
+  auto* frame = static_cast<SoGroup*>(SoNode::getByName("MenuBarFrame"));
+  ASSERT_NE(frame, nullptr);
+  ASSERT_EQ(frame->getNumChildren(), 1);
+  EXPECT_STREQ(frame->getChild(0)->getTypeId().getName().getString(), "Sphere");
+}
+
+} // namespace
