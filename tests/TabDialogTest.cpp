@@ -90,7 +90,6 @@ TEST(TabDialog, eachComponentGetsAPageTitledByItsLabel)
     EXPECT_EQ(child->getWidget()->parentWidget(), built.tabWidget->widget(i)) << i;
     EXPECT_EQ(built.tabs->getLayout(i), built.tabWidget->widget(i)->layout()) << i;
   }
-  EXPECT_EQ(built.tabs->getLayout(3), nullptr);
 
   // A tab's title is fixed when its page is made.
   static_cast<SoDialogLabel*>(built.tabs->getChild(0))->label = "Renamed";
@@ -116,26 +115,21 @@ TEST(TabDialog, aRebuildReachesTheComponentsInThePages)
   ASSERT_NE(added->getWidget(), nullptr) << "the window's rebuild built the new row child";
   EXPECT_EQ(added->getWidget()->parentWidget(), row->getWidget());
   EXPECT_GT(added->width.getValue(), 0);
+
+  // Destroyed, the tab dialog is made again whole by the next rebuild.
+  built.tabs->destroyWidget();
+  EXPECT_EQ(added->getWidget(), nullptr);
+  built.window->updateAfterSceneGraphChange();
+  auto* tabWidget = built.window->getBaseWidget()->findChild<QTabWidget*>("FWTSoDialogQTabDialogTabWidget");
+  ASSERT_NE(tabWidget, nullptr);
+  EXPECT_EQ(tabTexts(tabWidget), (std::vector<std::string>{"One", "Rows"}));
+  ASSERT_NE(added->getWidget(), nullptr);
+  EXPECT_EQ(row->getWidget()->parentWidget(), tabWidget->widget(1));
 }
 
-TEST(TabDialog, selectedPageFromTheApplicationIsClampedAndTellsNoAuditor)
-{
-  BuiltTabs built = buildTabs("", page("One") + page("Two") + page("Three"));
-  PageListener pages;
-  built.tabs->addAuditor(&pages);
-
-  built.tabs->selectedPage = 9;
-  EXPECT_EQ(built.tabs->selectedPage.getValue(), 2);
-  EXPECT_EQ(built.tabWidget->currentIndex(), 2);
-  built.tabs->selectedPage = -4;
-  EXPECT_EQ(built.tabs->selectedPage.getValue(), 0);
-  EXPECT_EQ(built.tabWidget->currentIndex(), 0);
-  built.tabs->selectedPage = 1;
-  EXPECT_EQ(built.tabWidget->currentIndex(), 1);
-  EXPECT_EQ(pages.calls, 0);
-}
-
-TEST(TabDialog, clickOnAnotherTabTellsTheTabAuditorsOnce)
+// Only a person's change of page reaches the tab dialog's own auditors, and
+// never a general auditor.
+TEST(TabDialog, pageChangesAreHeardOnceAndOnlyFromThePerson)
 {
   BuiltTabs built = buildTabs("", page("One") + page("Two") + page("Three"));
   PageListener pages;
@@ -143,24 +137,23 @@ TEST(TabDialog, clickOnAnotherTabTellsTheTabAuditorsOnce)
   built.tabs->addAuditor(&pages);
   built.tabs->addAuditor(&onTabs);
   built.window->addAuditor(&onWindow);
-  QTabBar* bar = built.tabWidget->tabBar();
 
+  built.tabs->selectedPage = 9;
+  EXPECT_EQ(built.tabs->selectedPage.getValue(), 2);
+  EXPECT_EQ(built.tabWidget->currentIndex(), 2);
+  built.tabs->selectedPage = -4;
+  EXPECT_EQ(built.tabs->selectedPage.getValue(), 0);
+  EXPECT_EQ(built.tabWidget->currentIndex(), 0);
+  EXPECT_EQ(pages.calls, 0);
+
+  QTabBar* bar = built.tabWidget->tabBar();
   QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(2).center());
   EXPECT_EQ(pages.calls, 1);
   EXPECT_EQ(pages.pageHeard, 2);
-  EXPECT_EQ(built.tabs->selectedPage.getValue(), 2);
   EXPECT_TRUE(static_cast<SoDialogComponent*>(built.tabs->getChild(2))->getWidget()->isVisible());
-
   QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(2).center());
   EXPECT_EQ(pages.calls, 1) << "the tab already selected";
-  EXPECT_EQ(onTabs.calls + onWindow.calls, 0) << "general auditors never hear of pages";
-
-  // With no auditor of its own, the change goes to the window, which has no
-  // operation for it.
-  built.tabs->removeAuditor(&pages);
-  QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(0).center());
-  EXPECT_EQ(built.tabs->selectedPage.getValue(), 0);
-  EXPECT_EQ(pages.calls + onTabs.calls + onWindow.calls, 1);
+  EXPECT_EQ(onTabs.calls + onWindow.calls, 0);
 }
 
 TEST(TabDialog, removingTheSelectedPageFallsBackToThePreviousSelection)
@@ -186,15 +179,9 @@ TEST(TabDialog, removingTheSelectedPageFallsBackToThePreviousSelection)
   DebugMessages messages;
   built.tabs->removeChild(4);
   built.tabs->insertChild(makeLabel("far"), 3);
-  built.tabs->addChild(nullptr);
-  built.tabs->replaceChild(1, makeLabel("none"));
-  ASSERT_EQ(messages.count(), 4u);
-  EXPECT_TRUE(messages.contains("SoTabDialog::removeChild"));
-  EXPECT_TRUE(messages.contains("Index 4 is out of range 0 - 0"));
-  EXPECT_TRUE(messages.contains("SoDialogGroup::insertChild"));
-  EXPECT_TRUE(messages.contains("Index 3 is out of range 0 - 1"));
-  EXPECT_TRUE(messages.contains("SoTabDialog::addChild"));
-  EXPECT_TRUE(messages.contains("Index 1 is out of range 0 - 0"));
+  ASSERT_EQ(messages.count(), 2u);
+  EXPECT_TRUE(messages.contains("SoTabDialog::removeChild") && messages.contains("Index 4 is out of range 0 - 0"));
+  EXPECT_TRUE(messages.contains("SoDialogGroup::insertChild") && messages.contains("Index 3 is out of range 0 - 1"));
 
   built.tabs->removeAllChildren();
   EXPECT_EQ(built.tabWidget->count(), 0);

@@ -20,7 +20,7 @@ SoDialogQTabDialog::~SoDialogQTabDialog()
 {
   // The node may be going as well: the tabs that change while the pages go
   // tell it nothing.
-  const QSignalBlocker quiet(m_tabWidget);
+  m_tabWidget->blockSignals(true);
   for (int i = m_tabWidget->count() - 1; i >= 0; --i) {
     QWidget* page = m_tabWidget->widget(i);
     delete page->layout();
