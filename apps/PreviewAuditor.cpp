@@ -5,17 +5,17 @@
 
 void PreviewAuditor::dialogPushButton(SoDialogPushButton* node)
 {
-  report(node, "pressed");
+  reportAction(m_out, node, "pressed");
 }
 
 void PreviewAuditor::dialogCheckBox(SoDialogCheckBox* node)
 {
-  report(node, node->state.getValue() ? "TRUE" : "FALSE");
+  reportAction(m_out, node, node->state.getValue() ? "TRUE" : "FALSE");
 }
 
-void PreviewAuditor::report(SoFormwright* node, const char* value)
+void reportAction(std::FILE* out, SoFormwright* node, const char* value)
 {
-  std::fprintf(m_out, "%s \"%s\": %s\n", node->getTypeId().getName().getString(),
+  std::fprintf(out, "%s \"%s\": %s\n", node->getTypeId().getName().getString(),
                node->auditorID.getValue().getString(), value);
-  std::fflush(m_out);
+  std::fflush(out);
 }

@@ -16,7 +16,8 @@ public:
   void dialogCheckBox(SoDialogCheckBox* node) override;
 
 private:
-  void report(SoFormwright* node, const char* value);
-
   std::FILE* m_out;
 };
+
+// One line of the preview's output, as above.
+void reportAction(std::FILE* out, SoFormwright* node, const char* value);
