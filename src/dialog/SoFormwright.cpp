@@ -426,17 +426,25 @@ int SoFormwright::getAuditorListLength() const
   return auditorList ? auditorList->getLength() : 0;
 }
 
+std::vector<SoAuditor*> SoFormwright::getAuditorsNow() const
+{
+  std::vector<SoAuditor*> auditors;
+  for (int i = 0; i < getAuditorListLength(); ++i)
+    auditors.push_back(static_cast<SoAuditor*>((*auditorList)[i]));
+  return auditors;
+}
+
 void SoFormwright::applyContainerAuditors(SoFormwright* control, void (*tests)(SoDialogAuditor*, SoFormwright*),
                                           SoDialogAuditor* fallback)
 {
-  const int count = getAuditorListLength();
-  for (int i = 0; i < count; ++i) {
+  const std::vector<SoAuditor*> auditors = getAuditorsNow();
+  for (SoAuditor* auditor : auditors) {
     // A tab dialog keeps auditors of its own kind in the same list; they
     // hear of page changes only.
-    if (getAuditor(i)->isOfType(SoDialogAuditor::getClassTypeId()))
-      tests(static_cast<SoDialogAuditor*>(getAuditor(i)), control);
+    if (auditor->isOfType(SoDialogAuditor::getClassTypeId()))
+      tests(static_cast<SoDialogAuditor*>(auditor), control);
   }
-  if (count > 0)
+  if (!auditors.empty())
     return;
   if (parentNode)
     parentNode->applyAuditor(control);

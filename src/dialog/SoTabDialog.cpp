@@ -60,10 +60,9 @@ void SoTabDialog::applyDlgCptAuditor()
 {
   // General auditors share the list: they hear of the controls in the pages,
   // never of a change of page.
-  const int count = getAuditorListLength();
   bool heard = false;
-  for (int i = 0; i < count; ++i) {
-    if (auto* auditor = dynamic_cast<SoTabDialogAuditor*>(getAuditor(i))) {
+  for (SoAuditor* each : getAuditorsNow()) {
+    if (auto* auditor = dynamic_cast<SoTabDialogAuditor*>(each)) {
       auditor->tabDialog(this);
       heard = true;
     }
