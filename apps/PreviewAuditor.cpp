@@ -1,7 +1,9 @@
 #include "PreviewAuditor.h"
 
 #include <SoDialogCheckBox.h>
+#include <SoDialogComboBox.h>
 #include <SoDialogPushButton.h>
+#include <SoDialogRadioButtons.h>
 
 void PreviewAuditor::dialogPushButton(SoDialogPushButton* node)
 {
@@ -13,9 +15,32 @@ void PreviewAuditor::dialogCheckBox(SoDialogCheckBox* node)
   report(node, node->state.getValue() ? "TRUE" : "FALSE");
 }
 
-void PreviewAuditor::report(SoFormwright* node, const char* value)
+void PreviewAuditor::dialogComboBox(SoDialogComboBox* node)
+{
+  reportChoice(node);
+}
+
+void PreviewAuditor::dialogRadioButtons(SoDialogRadioButtons* node)
+{
+  reportChoice(node);
+}
+
+// The chosen index and its text, as in: 1 "Inches".
+void PreviewAuditor::reportChoice(SoDialogChoice* node)
+{
+  const int index = node->selectedItem.getValue();
+  SbString value;
+  value.addIntString(index);
+  value += " \"";
+  if (index >= 0 && index < node->items.getNum())
+    value += node->items[index];
+  value += "\"";
+  report(node, value);
+}
+
+void PreviewAuditor::report(SoFormwright* node, const SbString& value)
 {
   std::fprintf(m_out, "%s \"%s\": %s\n", node->getTypeId().getName().getString(),
-               node->auditorID.getValue().getString(), value);
+               node->auditorID.getValue().getString(), value.getString());
   std::fflush(m_out);
 }

@@ -4,7 +4,9 @@
 
 #include <cstdio>
 
+class SoDialogChoice;
 class SoFormwright;
+class SbString;
 
 // Prints one line for every action of the user: the control's type, its
 // auditorID and its new value.
@@ -14,9 +16,12 @@ public:
 
   void dialogPushButton(SoDialogPushButton* node) override;
   void dialogCheckBox(SoDialogCheckBox* node) override;
+  void dialogComboBox(SoDialogComboBox* node) override;
+  void dialogRadioButtons(SoDialogRadioButtons* node) override;
 
 private:
-  void report(SoFormwright* node, const char* value);
+  void reportChoice(SoDialogChoice* node);
+  void report(SoFormwright* node, const SbString& value);
 
   std::FILE* m_out;
 };

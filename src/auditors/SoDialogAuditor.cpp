@@ -1,7 +1,9 @@
 #include <SoDialogAuditor.h>
 
 #include <SoDialogCheckBox.h>
+#include <SoDialogComboBox.h>
 #include <SoDialogPushButton.h>
+#include <SoDialogRadioButtons.h>
 #include <SoMenuPushButton.h>
 #include <SoPreferences.h>
 
@@ -36,6 +38,18 @@ void addStringField(SbString& text, const char* name, const SoSFString& field)
   text += "\"";
 }
 
+// The chosen entry's index and text; an index that names no entry shows no
+// text.
+void addSelection(SbString& text, const SoDialogChoice* node)
+{
+  const int32_t index = node->selectedItem.getValue();
+  text += "\n\t\t -> selectedItem ";
+  text.addIntString(index);
+  text += " : ";
+  if (index >= 0 && index < node->items.getNum())
+    text += node->items[index];
+}
+
 void postUnheard(const char* source, const SbString& text)
 {
   SoDebugError::postInfo(source, "%s", text.getString());
@@ -63,10 +77,28 @@ void SoDialogAuditor::dialogCheckBox(SoDialogCheckBox* node)
   postUnheard("SoDialogAuditor::dialogCheckBox", text);
 }
 
-void SoDialogAuditor::dialogComboBox(SoDialogComboBox*) {}
+void SoDialogAuditor::dialogComboBox(SoDialogComboBox* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoDialogComboBox");
+  addStringField(text, "label", node->label);
+  addSelection(text, node);
+  postUnheard("SoDialogAuditor::dialogComboBox", text);
+}
+
 void SoDialogAuditor::dialogEditText(SoDialogEditText*) {}
 void SoDialogAuditor::dialogIntegerSlider(SoDialogIntegerSlider*) {}
-void SoDialogAuditor::dialogRadioButtons(SoDialogRadioButtons*) {}
+void SoDialogAuditor::dialogRadioButtons(SoDialogRadioButtons* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoDialogRadioButtons");
+  addStringField(text, "label", node->label);
+  addSelection(text, node);
+  postUnheard("SoDialogAuditor::dialogRadioButtons", text);
+}
+
 void SoDialogAuditor::dialogRealSlider(SoDialogRealSlider*) {}
 
 // No node hands a tab dialog to a general auditor: tab dialogs have auditors
