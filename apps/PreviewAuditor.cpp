@@ -2,6 +2,7 @@
 
 #include <SoDialogCheckBox.h>
 #include <SoDialogComboBox.h>
+#include <SoDialogEditText.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
 
@@ -23,6 +24,14 @@ void PreviewAuditor::dialogComboBox(SoDialogComboBox* node)
 void PreviewAuditor::dialogRadioButtons(SoDialogRadioButtons* node)
 {
   reportChoice(node);
+}
+
+void PreviewAuditor::dialogEditText(SoDialogEditText* node)
+{
+  SbString value("\"");
+  value += node->editText.getValue();
+  value += "\"";
+  report(node, value);
 }
 
 // The chosen index and its text, as in: 1 "Inches".

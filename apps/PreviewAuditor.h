@@ -18,6 +18,7 @@ public:
   void dialogCheckBox(SoDialogCheckBox* node) override;
   void dialogComboBox(SoDialogComboBox* node) override;
   void dialogRadioButtons(SoDialogRadioButtons* node) override;
+  void dialogEditText(SoDialogEditText* node) override;
 
 private:
   void reportChoice(SoDialogChoice* node);

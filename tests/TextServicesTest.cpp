@@ -7,7 +7,6 @@
 
 #include <Inventor/SbViewportRegion.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
-#include <Inventor/fields/SoFieldData.h>
 #include <Inventor/nodes/SoFont.h>
 #include <Inventor/nodes/SoText3.h>
 #include <QFontMetrics>
@@ -29,24 +28,6 @@ public:
   using SoFormwright::insertTextTo3DText;
   using SoFormwright::setStringToText3;
   using SoFormwright::wrap3DTextLine;
-};
-
-// An edit text with the multiLine field that the control carries; the field
-// table is this class's own, so that the field can be found by name.
-class MultiLineEditText : public SoDialogEditText {
-public:
-  SoSFBool multiLine;
-
-  MultiLineEditText() : m_fields(new SoFieldData(*SoDialogEditText::getFieldDataPtr()))
-  {
-    m_fields->addField(this, "multiLine", &multiLine);
-    multiLine.setContainer(this);
-    multiLine.setValue(TRUE);
-  }
-  const SoFieldData* getFieldData() const override { return m_fields; }
-
-private:
-  SoFieldData* m_fields;
 };
 
 template <class Node>
@@ -140,17 +121,15 @@ TEST(TextServices, editTextMeasuresAsOneLineOnlyWhenItSaysSo)
   const QFontMetrics metrics = libraryMetrics();
   const SbString text("first\\nsecond line");
 
-  MultiLineEditText* singleLine = makeNode<MultiLineEditText>();
-  singleLine->multiLine = FALSE;
+  SoDialogEditText* singleLine = makeNode<SoDialogEditText>();
   EXPECT_EQ(SoFormwright::getLabelPixelSize(text, singleLine), oneLine(QString("first\r\nsecond line")))
-    << "one line, as wide as the whole text";
+    << "one line by default, as wide as the whole text";
 
   const SbVec2i32 twoLines(std::max(metrics.horizontalAdvance("first\r"), metrics.horizontalAdvance("second line")) + 3,
                            2 * metrics.height() + 3);
-  MultiLineEditText* multiLine = makeNode<MultiLineEditText>();
+  SoDialogEditText* multiLine = makeNode<SoDialogEditText>();
+  multiLine->multiLine = TRUE;
   EXPECT_EQ(SoFormwright::getLabelPixelSize(text, multiLine), twoLines);
-  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, makeNode<SoDialogEditText>()), twoLines)
-    << "an edit text without the field counts its lines";
 }
 
 TEST(TextServices, newFontChangesLaterMeasuresButNotBuiltWidgets)

@@ -2,6 +2,7 @@
 
 #include <SoDialogCheckBox.h>
 #include <SoDialogComboBox.h>
+#include <SoDialogEditText.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
 #include <SoMenuPushButton.h>
@@ -87,7 +88,16 @@ void SoDialogAuditor::dialogComboBox(SoDialogComboBox* node)
   postUnheard("SoDialogAuditor::dialogComboBox", text);
 }
 
-void SoDialogAuditor::dialogEditText(SoDialogEditText*) {}
+void SoDialogAuditor::dialogEditText(SoDialogEditText* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoDialogEditText");
+  addStringField(text, "label", node->label);
+  addStringField(text, "editText", node->editText);
+  postUnheard("SoDialogAuditor::dialogEditText", text);
+}
+
 void SoDialogAuditor::dialogIntegerSlider(SoDialogIntegerSlider*) {}
 void SoDialogAuditor::dialogRadioButtons(SoDialogRadioButtons* node)
 {
