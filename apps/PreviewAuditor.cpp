@@ -3,8 +3,12 @@
 #include <SoDialogCheckBox.h>
 #include <SoDialogComboBox.h>
 #include <SoDialogEditText.h>
+#include <SoDialogIntegerSlider.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
+#include <SoDialogRealSlider.h>
+
+#include <QString>
 
 void PreviewAuditor::dialogPushButton(SoDialogPushButton* node)
 {
@@ -32,6 +36,19 @@ void PreviewAuditor::dialogEditText(SoDialogEditText* node)
   value += node->editText.getValue();
   value += "\"";
   report(node, value);
+}
+
+void PreviewAuditor::dialogIntegerSlider(SoDialogIntegerSlider* node)
+{
+  SbString value;
+  value.addIntString(node->value.getValue());
+  report(node, value);
+}
+
+// Full precision: the slider's own format may round the value away.
+void PreviewAuditor::dialogRealSlider(SoDialogRealSlider* node)
+{
+  report(node, QString::number(node->value.getValue()).toLatin1().constData());
 }
 
 // The chosen index and its text, as in: 1 "Inches".

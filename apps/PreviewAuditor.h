@@ -19,6 +19,8 @@ public:
   void dialogComboBox(SoDialogComboBox* node) override;
   void dialogRadioButtons(SoDialogRadioButtons* node) override;
   void dialogEditText(SoDialogEditText* node) override;
+  void dialogIntegerSlider(SoDialogIntegerSlider* node) override;
+  void dialogRealSlider(SoDialogRealSlider* node) override;
 
 private:
   void reportChoice(SoDialogChoice* node);

@@ -3,12 +3,15 @@
 #include <SoDialogCheckBox.h>
 #include <SoDialogComboBox.h>
 #include <SoDialogEditText.h>
+#include <SoDialogIntegerSlider.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
+#include <SoDialogRealSlider.h>
 #include <SoMenuPushButton.h>
 #include <SoPreferences.h>
 
 #include "SoAuditorSource.h"
+#include "SoSliderFormat.h"
 
 #include <Inventor/errors/SoDebugError.h>
 
@@ -98,7 +101,17 @@ void SoDialogAuditor::dialogEditText(SoDialogEditText* node)
   postUnheard("SoDialogAuditor::dialogEditText", text);
 }
 
-void SoDialogAuditor::dialogIntegerSlider(SoDialogIntegerSlider*) {}
+// The value follows the label's closing quote with nothing between them.
+void SoDialogAuditor::dialogIntegerSlider(SoDialogIntegerSlider* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoDialogIntegerSlider");
+  addStringField(text, "label", node->label);
+  text.addIntString(node->value.getValue());
+  postUnheard("SoDialogAuditor::dialogIntegerSlider", text);
+}
+
 void SoDialogAuditor::dialogRadioButtons(SoDialogRadioButtons* node)
 {
   if (!reportsUnheardControls())
@@ -109,7 +122,18 @@ void SoDialogAuditor::dialogRadioButtons(SoDialogRadioButtons* node)
   postUnheard("SoDialogAuditor::dialogRadioButtons", text);
 }
 
-void SoDialogAuditor::dialogRealSlider(SoDialogRealSlider*) {}
+void SoDialogAuditor::dialogRealSlider(SoDialogRealSlider* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoDialogRealSlider");
+  addStringField(text, "label", node->label);
+  text += "\n\t\t -> value \"";
+  text += SoSliderFormat::formatReal(node->format.getValue(), node->value.getValue(),
+                                     "SoDialogAuditor::dialogRealSlider");
+  text += "\"";
+  postUnheard("SoDialogAuditor::dialogRealSlider", text);
+}
 
 // No node hands a tab dialog to a general auditor: tab dialogs have auditors
 // of their own.
