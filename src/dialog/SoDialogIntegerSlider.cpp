@@ -143,10 +143,17 @@ void SoDialogIntegerSlider::setValue()
     position = 0.0f;
   position *= range;
   const int32_t rounded = wholePart(std::trunc(double(position)) + min.getValue());
-  if (rounded != value.getValue()) {
-    setFieldUnwatched(value, valueSensor, rounded);
-    applyDlgCptAuditor();
-  }
+  if (rounded == value.getValue())
+    return;
+  // The auditors run with the sensor off: a value they set stays out of the
+  // widgets.
+  const bool attached = valueSensor && valueSensor->getAttachedField() == &value;
+  if (attached)
+    valueSensor->detach();
+  value.setValue(rounded);
+  applyDlgCptAuditor();
+  if (attached)
+    valueSensor->attach(&value);
 }
 
 void SoDialogIntegerSlider::setValueFromEdit(int mode)

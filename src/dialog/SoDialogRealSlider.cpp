@@ -118,10 +118,17 @@ void SoDialogRealSlider::updateFromSensor(SoSensor* sensor)
 void SoDialogRealSlider::setValue()
 {
   const float number = normalizedValue * (max.getValue() - min.getValue()) + min.getValue();
-  if (number != value.getValue()) {
-    setFieldUnwatched(value, valueSensor, number);
-    applyDlgCptAuditor();
-  }
+  if (number == value.getValue())
+    return;
+  // The auditors run with the sensor off: a value they set stays out of the
+  // widgets.
+  const bool attached = valueSensor && valueSensor->getAttachedField() == &value;
+  if (attached)
+    valueSensor->detach();
+  value.setValue(number);
+  applyDlgCptAuditor();
+  if (attached)
+    valueSensor->attach(&value);
 }
 
 void SoDialogRealSlider::setValueFromEdit(int mode)
