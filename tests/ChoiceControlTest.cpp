@@ -101,6 +101,16 @@ TEST(DialogChoice, placeholderStandsForTheEmptyList)
   fresh->removeItem(0);
   fresh->removeItem(0);
   EXPECT_EQ(fresh->items.getNum(), 0);
+
+  // A list read empty is built with the placeholder in it.
+  ControlWindow window;
+  window.build(fresh);
+  EXPECT_EQ(itemsOf(fresh), std::vector<std::string>{""});
+  EXPECT_TRUE(buttonsOf(window).isEmpty());
+  SoDialogComboBox* empty = makeChoice<SoDialogComboBox>("", {});
+  window.build(empty);
+  EXPECT_EQ(itemsOf(empty), std::vector<std::string>{""});
+  EXPECT_EQ(comboOf(window)->count(), 1);
 }
 
 TEST(DialogChoice, removingTheLastRealEntryOfShownButtonsBringsThePlaceholderBack)
