@@ -4,6 +4,7 @@
 
 #include <cstdio>
 
+class SoDialogChoice;
 class SoFormwright;
 
 // Prints one line for every action of the user: the control's type, its
@@ -14,8 +15,15 @@ public:
 
   void dialogPushButton(SoDialogPushButton* node) override;
   void dialogCheckBox(SoDialogCheckBox* node) override;
+  void dialogComboBox(SoDialogComboBox* node) override;
+  void dialogRadioButtons(SoDialogRadioButtons* node) override;
+  void dialogEditText(SoDialogEditText* node) override;
+  void dialogIntegerSlider(SoDialogIntegerSlider* node) override;
+  void dialogRealSlider(SoDialogRealSlider* node) override;
 
 private:
+  void reportChoice(SoDialogChoice* node);
+
   std::FILE* m_out;
 };
 

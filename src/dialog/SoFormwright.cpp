@@ -598,15 +598,9 @@ SbVec2i32 SoFormwright::getLabelPixelSize(SbString text, SoFormwright* node)
     return SbVec2i32(0, 0);
   const SbString converted = convertToCString(text, node);
   int lines = getNumLines(converted) + 1;
-  if (node && node->isOfType(SoDialogEditText::getClassTypeId())) {
-    // Only an edit text that says it has one line is measured as one; the
-    // field is looked up by name so that any edit text without it counts
-    // its lines.
-    const SoField* multiLine = node->getField("multiLine");
-    if (multiLine && multiLine->isOfType(SoSFBool::getClassTypeId()) &&
-        !static_cast<const SoSFBool*>(multiLine)->getValue())
-      lines = 1;
-  }
+  if (node && node->isOfType(SoDialogEditText::getClassTypeId()) &&
+      !static_cast<SoDialogEditText*>(node)->multiLine.getValue())
+    lines = 1;
   const QFontMetrics metrics(s_dialogFont);
   const QString whole = SoControlWidgets::toWidgetText(converted);
   if (lines == 1)
