@@ -10,6 +10,7 @@
 #include <SoDialogComponent.h>
 #include <SoDialogGroup.h>
 #include <SoFormwright.h>
+#include <SoMenuBar.h>
 
 #include "SoDBImpl.h"
 #include "SoFormMode.h"
@@ -122,9 +123,13 @@ public:
       auto* child = static_cast<SoFormwright*>((*m_owner.children)[i]);
       if (child->auditorID.getValue() == id)
         return child;
+      SoFormwright* found = nullptr;
       if (child->isOfType(SoDialogGroup::getClassTypeId()))
-        if (SoFormwright* found = static_cast<SoDialogGroup*>(child)->searchForAuditorId(id))
-          return found;
+        found = static_cast<SoDialogGroup*>(child)->searchForAuditorId(id);
+      else if (child->isOfType(SoMenuBar::getClassTypeId()))
+        found = static_cast<SoMenuBar*>(child)->searchForAuditorId(id);
+      if (found)
+        return found;
     }
     return nullptr;
   }
