@@ -2,7 +2,9 @@
 
 #include <SoDialogCheckBox.h>
 #include <SoDialogPushButton.h>
+#include <SoMenuCheckBox.h>
 #include <SoMenuPushButton.h>
+#include <SoMenuRadioButtons.h>
 #include <SoPreferences.h>
 
 #include "SoAuditorSource.h"
@@ -34,6 +36,16 @@ void addStringField(SbString& text, const char* name, const SoSFString& field)
   text += " \"";
   text += field.getValue();
   text += "\"";
+}
+
+// The selected index and its item; an index outside the items names none.
+void addSelection(SbString& text, int32_t selected, const SoMFString& items)
+{
+  text += "\n\t\t -> selectedItem ";
+  text += SbString(static_cast<int>(selected));
+  text += " : ";
+  if (selected >= 0 && selected < items.getNum())
+    text += items[selected];
 }
 
 void postUnheard(const char* source, const SbString& text)
@@ -82,6 +94,25 @@ void SoDialogAuditor::menuPushButton(SoMenuPushButton* node)
   postUnheard("SoDialogAuditor::menuPushButton", text);
 }
 
-void SoDialogAuditor::menuCheckBox(SoMenuCheckBox*) {}
+void SoDialogAuditor::menuCheckBox(SoMenuCheckBox* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoMenuCheckBox");
+  addStringField(text, "label", node->label);
+  addStringField(text, "onString", node->onString);
+  postUnheard("SoDialogAuditor::menuCheckBox", text);
+}
+
 void SoDialogAuditor::menuFileSelection(SoMenuFileSelection*) {}
-void SoDialogAuditor::menuRadioButtons(SoMenuRadioButtons*) {}
+
+void SoDialogAuditor::menuRadioButtons(SoMenuRadioButtons* node)
+{
+  // A selection that follows another field is that field's business.
+  if (!reportsUnheardControls() || node->selectedItem.isConnected())
+    return;
+  SbString text = unheardControl("SoMenuRadioButtons");
+  addStringField(text, "label", node->label);
+  addSelection(text, node->selectedItem.getValue(), node->items);
+  postUnheard("SoDialogAuditor::menuRadioButtons", text);
+}
