@@ -3,6 +3,7 @@
 #include <SoDialogCheckBox.h>
 #include <SoDialogPushButton.h>
 #include <SoMenuCheckBox.h>
+#include <SoMenuFileSelection.h>
 #include <SoMenuPushButton.h>
 #include <SoMenuRadioButtons.h>
 #include <SoPreferences.h>
@@ -104,7 +105,15 @@ void SoDialogAuditor::menuCheckBox(SoMenuCheckBox* node)
   postUnheard("SoDialogAuditor::menuCheckBox", text);
 }
 
-void SoDialogAuditor::menuFileSelection(SoMenuFileSelection*) {}
+void SoDialogAuditor::menuFileSelection(SoMenuFileSelection* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoMenuFileSelection");
+  addStringField(text, "title", node->title);
+  addStringField(text, "filename", node->filename);
+  postUnheard("SoDialogAuditor::menuFileSelection", text);
+}
 
 void SoDialogAuditor::menuRadioButtons(SoMenuRadioButtons* node)
 {

@@ -1,6 +1,8 @@
 #include <SoMenuPopup.h>
 
 #include <SoMenuBar.h>
+#include <SoMenuCheckBoxLauncher.h>
+#include <SoMenuPushButtonLauncher.h>
 
 #include "SoAuditorDispatch.h"
 #include "SoControlWidgets.h"
@@ -99,6 +101,10 @@ SoFormwright* SoMenuPopup::searchForAuditorId(SbString id)
     SoFormwright* found = nullptr;
     if (child->isOfType(SoMenuPopup::getClassTypeId()))
       found = static_cast<SoMenuPopup*>(child)->searchForAuditorId(id);
+    else if (child->isOfType(SoMenuCheckBoxLauncher::getClassTypeId()))
+      found = static_cast<SoMenuCheckBoxLauncher*>(child)->searchForAuditorId(id);
+    else if (child->isOfType(SoMenuPushButtonLauncher::getClassTypeId()))
+      found = static_cast<SoMenuPushButtonLauncher*>(child)->searchForAuditorId(id);
     if (found)
       return found;
   }
