@@ -14,6 +14,10 @@ public:
 
   void dialogPushButton(SoDialogPushButton* node) override;
   void dialogCheckBox(SoDialogCheckBox* node) override;
+  void menuPushButton(SoMenuPushButton* node) override;
+  void menuCheckBox(SoMenuCheckBox* node) override;
+  void menuRadioButtons(SoMenuRadioButtons* node) override;
+  void menuFileSelection(SoMenuFileSelection* node) override;
 
 private:
   void report(SoFormwright* node, const char* value);
