@@ -121,21 +121,13 @@ TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
   EXPECT_EQ(file->getChild(0), first);
   EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early", "First"})) << "Qt items always go last";
 
-  file->removeChild(recent);
-  EXPECT_EQ(file->getNumChildren(), 2);
-  EXPECT_EQ(file->findChild(recent), -1);
-  EXPECT_EQ(titles(fileMenu).size(), 3) << "nothing leaves the Qt menu";
-
   auto* replacement = new SoMenuPopup;
   replacement->label = "Other";
   file->replaceChild(early, replacement);
+  file->removeChild(recent);
+  EXPECT_EQ(file->getNumChildren(), 2);
   EXPECT_EQ(file->getChild(1), replacement);
-  EXPECT_EQ(replacement->getParent(), file);
-  EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early", "First", "Other"}));
-
-  file->removeAllChildren();
-  EXPECT_EQ(file->getNumChildren(), 0);
-  EXPECT_GT(file->getChildren()->getLength(), 0) << "the kit's parts stay";
+  EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early", "First", "Other"})) << "nothing leaves the Qt menu";
 }
 
 TEST_F(MenuStructure, misuseOfTheChildOperationsIsReported)
@@ -196,13 +188,6 @@ TEST_F(MenuStructure, sizesFollowTheLabels)
 
   EXPECT_EQ(file->getItemInitSize(), SbVec2i32(fileWidth + 8, 18));
   EXPECT_EQ(recent->getItemInitSize(), SbVec2i32(textPixels("Recent")[0] + 8 + 20, 18)) << "room for the arrow";
-
-  recent->setItemSize(SbVec2i32(70, 40), 0);
-  EXPECT_EQ(recent->getItemSize(), SbVec2i32(70, 18));
-  recent->setItemSize(SbVec2i32(90, 40), 0);
-  EXPECT_EQ(recent->getItemSize(), SbVec2i32(70, 18)) << "only the first size is taken";
-  recent->setItemSize(SbVec2i32(90, 40), 1);
-  EXPECT_EQ(recent->getItemSize(), SbVec2i32(90, 18));
 }
 
 TEST(MenuTexts, keyCombinationsSortTheModifiersByWeight)

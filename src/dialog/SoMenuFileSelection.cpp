@@ -58,9 +58,10 @@ void SoMenuFileSelection::menuEvent(void*, int)
 void SoMenuFileSelection::openDialogBox()
 {
   QStringList filters;
-  for (int i = 0; i < filter.getNum() / 2; ++i)
-    filters << SoControlWidgets::toWidgetText(filter[2 * i + 1]) + " (" + SoControlWidgets::toWidgetText(filter[2 * i]) +
-                 ")";
+  for (int i = 0; i < filter.getNum() / 2; ++i) {
+    const QString pattern = SoControlWidgets::toWidgetText(filter[2 * i]);
+    filters << SoControlWidgets::toWidgetText(filter[2 * i + 1]) + " (" + pattern + ")";
+  }
   const QString directory =
     SoControlWidgets::toWidgetText(SbFileHelper::expandString(fileDirectory.getValue()));
   const QString caption = SoControlWidgets::toWidgetText(title.getValue());
