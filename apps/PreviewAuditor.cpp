@@ -7,8 +7,14 @@
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
 #include <SoDialogRealSlider.h>
+#include <SoMenuCheckBox.h>
+#include <SoMenuFileSelection.h>
+#include <SoMenuPushButton.h>
+#include <SoMenuRadioButtons.h>
 
 #include <QString>
+
+#include <string>
 
 void PreviewAuditor::dialogPushButton(SoDialogPushButton* node)
 {
@@ -18,6 +24,35 @@ void PreviewAuditor::dialogPushButton(SoDialogPushButton* node)
 void PreviewAuditor::dialogCheckBox(SoDialogCheckBox* node)
 {
   reportAction(m_out, node, node->state.getValue() ? "TRUE" : "FALSE");
+}
+
+void PreviewAuditor::menuPushButton(SoMenuPushButton* node)
+{
+  reportAction(m_out, node, "chosen");
+}
+
+void PreviewAuditor::menuCheckBox(SoMenuCheckBox* node)
+{
+  reportAction(m_out, node, node->state.getValue() ? "TRUE" : "FALSE");
+}
+
+// The index chosen and its item.
+void PreviewAuditor::menuRadioButtons(SoMenuRadioButtons* node)
+{
+  const int index = node->selectedItem.getValue();
+  std::string value = std::to_string(index);
+  if (index >= 0 && index < node->items.getNum())
+    value += std::string(" \"") + node->items[index].getString() + "\"";
+  reportAction(m_out, node, value.c_str());
+}
+
+// The file chosen, or "" when the dialog was cancelled.
+void PreviewAuditor::menuFileSelection(SoMenuFileSelection* node)
+{
+  std::string path;
+  if (node->filename.getValue().getLength() > 0)
+    path = std::string(node->fileDirectory.getValue().getString()) + "/" + node->filename.getValue().getString();
+  reportAction(m_out, node, ("\"" + path + "\"").c_str());
 }
 
 void PreviewAuditor::dialogComboBox(SoDialogComboBox* node)

@@ -20,6 +20,10 @@ public:
   void dialogEditText(SoDialogEditText* node) override;
   void dialogIntegerSlider(SoDialogIntegerSlider* node) override;
   void dialogRealSlider(SoDialogRealSlider* node) override;
+  void menuPushButton(SoMenuPushButton* node) override;
+  void menuCheckBox(SoMenuCheckBox* node) override;
+  void menuRadioButtons(SoMenuRadioButtons* node) override;
+  void menuFileSelection(SoMenuFileSelection* node) override;
 
 private:
   void reportChoice(SoDialogChoice* node);

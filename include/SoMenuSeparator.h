@@ -10,6 +10,11 @@ class SoMenuSeparator : public SoMenuItem {
 public:
   SoMenuSeparator();
 
+  // Each widget build adds a line to the menu: the line is not kept.
+  void buildMenu(void* menuParent, int is2D, int position) override;
+  SbVec2i32 getItemInitSize() override;
+  void setItemSize(SbVec2i32 size, int force) override;
+
 protected:
   ~SoMenuSeparator() override;
 };

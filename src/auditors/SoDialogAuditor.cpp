@@ -7,7 +7,10 @@
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
 #include <SoDialogRealSlider.h>
+#include <SoMenuCheckBox.h>
+#include <SoMenuFileSelection.h>
 #include <SoMenuPushButton.h>
+#include <SoMenuRadioButtons.h>
 #include <SoPreferences.h>
 
 #include "SoAuditorSource.h"
@@ -42,16 +45,14 @@ void addStringField(SbString& text, const char* name, const SoSFString& field)
   text += "\"";
 }
 
-// The chosen entry's index and text; an index that names no entry shows no
-// text.
-void addSelection(SbString& text, const SoDialogChoice* node)
+// The selected index and its item; an index outside the items names none.
+void addSelection(SbString& text, int32_t selected, const SoMFString& items)
 {
-  const int32_t index = node->selectedItem.getValue();
   text += "\n\t\t -> selectedItem ";
-  text.addIntString(index);
+  text += SbString(static_cast<int>(selected));
   text += " : ";
-  if (index >= 0 && index < node->items.getNum())
-    text += node->items[index];
+  if (selected >= 0 && selected < items.getNum())
+    text += items[selected];
 }
 
 void postUnheard(const char* source, const SbString& text)
@@ -87,7 +88,7 @@ void SoDialogAuditor::dialogComboBox(SoDialogComboBox* node)
     return;
   SbString text = unheardControl("SoDialogComboBox");
   addStringField(text, "label", node->label);
-  addSelection(text, node);
+  addSelection(text, node->selectedItem.getValue(), node->items);
   postUnheard("SoDialogAuditor::dialogComboBox", text);
 }
 
@@ -118,7 +119,7 @@ void SoDialogAuditor::dialogRadioButtons(SoDialogRadioButtons* node)
     return;
   SbString text = unheardControl("SoDialogRadioButtons");
   addStringField(text, "label", node->label);
-  addSelection(text, node);
+  addSelection(text, node->selectedItem.getValue(), node->items);
   postUnheard("SoDialogAuditor::dialogRadioButtons", text);
 }
 
@@ -148,6 +149,33 @@ void SoDialogAuditor::menuPushButton(SoMenuPushButton* node)
   postUnheard("SoDialogAuditor::menuPushButton", text);
 }
 
-void SoDialogAuditor::menuCheckBox(SoMenuCheckBox*) {}
-void SoDialogAuditor::menuFileSelection(SoMenuFileSelection*) {}
-void SoDialogAuditor::menuRadioButtons(SoMenuRadioButtons*) {}
+void SoDialogAuditor::menuCheckBox(SoMenuCheckBox* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoMenuCheckBox");
+  addStringField(text, "label", node->label);
+  addStringField(text, "onString", node->onString);
+  postUnheard("SoDialogAuditor::menuCheckBox", text);
+}
+
+void SoDialogAuditor::menuFileSelection(SoMenuFileSelection* node)
+{
+  if (!reportsUnheardControls())
+    return;
+  SbString text = unheardControl("SoMenuFileSelection");
+  addStringField(text, "title", node->title);
+  addStringField(text, "filename", node->filename);
+  postUnheard("SoDialogAuditor::menuFileSelection", text);
+}
+
+void SoDialogAuditor::menuRadioButtons(SoMenuRadioButtons* node)
+{
+  // A selection that follows another field is that field's business.
+  if (!reportsUnheardControls() || node->selectedItem.isConnected())
+    return;
+  SbString text = unheardControl("SoMenuRadioButtons");
+  addStringField(text, "label", node->label);
+  addSelection(text, node->selectedItem.getValue(), node->items);
+  postUnheard("SoDialogAuditor::menuRadioButtons", text);
+}

@@ -30,6 +30,14 @@ inline QString toWidgetText(const SbString& text)
   return decoded;
 }
 
+// The one-byte text that menu entries and accelerators travel in: characters
+// outside Latin-1 become "?", and Qt reads the bytes back as UTF-8, so only
+// ASCII arrives unchanged. Popup titles take the whole text instead.
+inline QByteArray toNarrowText(const SbString& text)
+{
+  return toWidgetText(text).toLatin1();
+}
+
 // Only the horizontal part: the vertical place is the control's to choose.
 inline Qt::Alignment toWidgetAlignment(int labelAlignment)
 {

@@ -1,8 +1,10 @@
 #include <SoDialogCheckBoxLauncher.h>
 
 #include "SoFormwrightSubNodeSource.h"
+#include "SoLauncherChildren.h"
 
 SO_FORMWRIGHT_SOURCE(SoDialogCheckBoxLauncher, SoDialogCheckBox, "DialogCheckBoxLauncher")
+SO_FORMWRIGHT_LAUNCHER_OPERATIONS(SoDialogCheckBoxLauncher, numChildren)
 
 SoDialogCheckBoxLauncher::SoDialogCheckBoxLauncher()
 {
@@ -10,4 +12,37 @@ SoDialogCheckBoxLauncher::SoDialogCheckBoxLauncher()
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
+// The dialogs go with the child list unless the application holds them.
 SoDialogCheckBoxLauncher::~SoDialogCheckBoxLauncher() = default;
+
+void SoDialogCheckBoxLauncher::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
+{
+  SoDialogCheckBox::buildWidget(parent, useSize, size, mode);
+  showDialogsAsChecked();
+}
+
+void SoDialogCheckBoxLauncher::eventNotify(unsigned int event, unsigned long long value)
+{
+  SoDialogCheckBox::eventNotify(event, value);
+  showDialogsAsChecked();
+}
+
+void SoDialogCheckBoxLauncher::showDialogsAsChecked()
+{
+  if (!buildMode)
+    return;
+  for (int i = 0; i < numChildren; ++i) {
+    SoTopLevelDialog* dialog = childList().at(i);
+    SoLauncherDialogs::build(dialog, this);
+    if (state.getValue())
+      dialog->show();
+    else
+      dialog->hide();
+  }
+}
+
+void SoDialogCheckBoxLauncher::applyAuditors()
+{
+  for (int i = 0; i < numChildren; ++i)
+    childList().at(i)->applyAuditors();
+}

@@ -1,8 +1,10 @@
 #include <SoDialogPushButtonLauncher.h>
 
 #include "SoFormwrightSubNodeSource.h"
+#include "SoLauncherChildren.h"
 
 SO_FORMWRIGHT_SOURCE(SoDialogPushButtonLauncher, SoDialogPushButton, "DialogPushButtonLauncher")
+SO_FORMWRIGHT_LAUNCHER_OPERATIONS(SoDialogPushButtonLauncher, numChildren)
 
 SoDialogPushButtonLauncher::SoDialogPushButtonLauncher()
 {
@@ -10,4 +12,30 @@ SoDialogPushButtonLauncher::SoDialogPushButtonLauncher()
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
+// The dialogs go with the child list unless the application holds them.
 SoDialogPushButtonLauncher::~SoDialogPushButtonLauncher() = default;
+
+void SoDialogPushButtonLauncher::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
+{
+  SoDialogPushButton::buildWidget(parent, useSize, size, mode);
+  if (!buildMode)
+    return;
+  for (int i = 0; i < numChildren; ++i)
+    SoLauncherDialogs::build(childList().at(i), this);
+}
+
+void SoDialogPushButtonLauncher::eventNotify(unsigned int event, unsigned long long value)
+{
+  SoDialogPushButton::eventNotify(event, value);
+  for (int i = 0; i < numChildren; ++i) {
+    SoTopLevelDialog* dialog = childList().at(i);
+    SoLauncherDialogs::build(dialog, this);
+    dialog->show();
+  }
+}
+
+void SoDialogPushButtonLauncher::applyAuditors()
+{
+  for (int i = 0; i < numChildren; ++i)
+    childList().at(i)->applyAuditors();
+}

@@ -7,9 +7,12 @@
 // `Owner` declares it a friend.
 
 #include <SoDialogAuditor.h>
+#include <SoDialogCheckBoxLauncher.h>
 #include <SoDialogComponent.h>
 #include <SoDialogGroup.h>
+#include <SoDialogPushButtonLauncher.h>
 #include <SoFormwright.h>
+#include <SoMenuBar.h>
 
 #include "SoDBImpl.h"
 #include "SoFormMode.h"
@@ -103,28 +106,42 @@ public:
   }
 
   // Lets the owner's auditors hear of every control below it at once. A
-  // control's own auditors are passed by: the event starts at the owner.
+  // control's own auditors are passed by: the event starts at the owner. A
+  // launcher is walked instead of heard: its dialogs' auditors hear theirs.
   void applyAuditors() const
   {
     for (int i = 0; i < m_owner.numChildren; ++i) {
       auto* child = static_cast<SoFormwright*>((*m_owner.children)[i]);
       if (child->isOfType(SoDialogGroup::getClassTypeId()))
         static_cast<SoDialogGroup*>(child)->applyAuditors();
+      else if (child->isOfType(SoDialogCheckBoxLauncher::getClassTypeId()))
+        static_cast<SoDialogCheckBoxLauncher*>(child)->applyAuditors();
+      else if (child->isOfType(SoDialogPushButtonLauncher::getClassTypeId()))
+        static_cast<SoDialogPushButtonLauncher*>(child)->applyAuditors();
       else
         m_owner.applyAuditor(child);
     }
   }
 
-  // Depth first, the first node below the owner whose auditorID is `id`.
+  // Depth first, the first node below the owner whose auditorID is `id`,
+  // through groups, menus and the dialogs of launchers.
   SoFormwright* searchForAuditorId(const SbString& id) const
   {
     for (int i = 0; i < m_owner.numChildren; ++i) {
       auto* child = static_cast<SoFormwright*>((*m_owner.children)[i]);
       if (child->auditorID.getValue() == id)
         return child;
+      SoFormwright* found = nullptr;
       if (child->isOfType(SoDialogGroup::getClassTypeId()))
-        if (SoFormwright* found = static_cast<SoDialogGroup*>(child)->searchForAuditorId(id))
-          return found;
+        found = static_cast<SoDialogGroup*>(child)->searchForAuditorId(id);
+      else if (child->isOfType(SoMenuBar::getClassTypeId()))
+        found = static_cast<SoMenuBar*>(child)->searchForAuditorId(id);
+      else if (child->isOfType(SoDialogCheckBoxLauncher::getClassTypeId()))
+        found = static_cast<SoDialogCheckBoxLauncher*>(child)->searchForAuditorId(id);
+      else if (child->isOfType(SoDialogPushButtonLauncher::getClassTypeId()))
+        found = static_cast<SoDialogPushButtonLauncher*>(child)->searchForAuditorId(id);
+      if (found)
+        return found;
     }
     return nullptr;
   }

@@ -1,17 +1,102 @@
 #include <SoMenuBar.h>
 
+#include <SoMenuPopup.h>
+#include <SoTopLevelDialog.h>
+
 #include "SoAuditorDispatch.h"
+#include "SoFormwrightChildren.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoMenuChildren.h"
+
+#include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoSeparator.h>
+
+#include <QLayout>
+#include <QMenuBar>
 
 SO_FORMWRIGHT_SOURCE(SoMenuBar, SoTopComponent, "MenuBar")
 
 SoMenuBar::SoMenuBar()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoMenuBar);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frame, SoGroup, SoGroup, frameSep, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
+// The QMenuBar belongs to the window it was given to.
 SoMenuBar::~SoMenuBar() = default;
+
+SoMenuChildren<SoMenuBar, SoMenuPopup> SoMenuBar::childList() const
+{
+  return {const_cast<SoMenuBar&>(*this), "SoMenuBar"};
+}
+
+SoFormwrightChildren<SoMenuBar, SoMenuPopup> SoMenuBar::fileForm() const
+{
+  return {const_cast<SoMenuBar&>(*this), "SoMenuBar"};
+}
+
+void SoMenuBar::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
+{
+  SoFormwright::buildWidget(parent, useSize, size, mode);
+  if (mode != 0) {
+    createMenuBar(parent);
+    updateChildren();
+  }
+  firstBuild = 0;
+}
+
+void SoMenuBar::createMenuBar(QWidget* parent)
+{
+  menuBar = new QMenuBar(parent);
+  // A bar belongs to a window; one built on its own has no layout to go in.
+  if (!parentNode || !parentNode->isOfType(SoTopLevelDialog::getClassTypeId()))
+    return;
+  QWidget* window = static_cast<SoTopLevelDialog*>(parentNode)->getBaseWidget();
+  if (window && window->layout())
+    window->layout()->setMenuBar(menuBar);
+}
+
+void SoMenuBar::updateChildren()
+{
+  for (int i = 0; i < numChildren; ++i)
+    childList().at(i)->buildMenu(menuBar.data(), 1, i);
+}
+
+void SoMenuBar::destroyWidget()
+{
+  for (int i = 0; i < numChildren; ++i)
+    childList().at(i)->destroyWidget();
+  SoFormwright::destroyWidget();
+}
+
+void* SoMenuBar::getMenu(void* parent)
+{
+  if (!menuBar) {
+    SbVec2i32 useSize(0, 0), size(0, 0);
+    buildWidget(static_cast<QWidget*>(parent), useSize, size, 1);
+  }
+  return menuBar.data();
+}
+
+void SoMenuBar::destroyNoDeleteMenuItems() {}
+
+void SoMenuBar::getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
+{
+  int32_t width = 0;
+  for (int i = 0; i < numChildren; ++i)
+    width += getLabelPixelSize(childList().at(i)->label.getValue(), nullptr)[0] + 9;
+  size.setValue(width + 10, 19);
+  min.setValue(0, 0);
+  max.setValue(32767, 32767);
+}
+
+void SoMenuBar::changeEnable()
+{
+  if (menuBar)
+    menuBar->setEnabled(enable.getValue() != 0);
+}
 
 void SoMenuBar::addAuditor(SoDialogAuditor* auditor)
 {
@@ -26,4 +111,100 @@ void SoMenuBar::removeAuditor(SoDialogAuditor* auditor)
 void SoMenuBar::applyAuditor(SoFormwright* control)
 {
   applyContainerAuditors(control, &SoAuditorDispatch::applyMenuTests, nullptr);
+}
+
+SoFormwright* SoMenuBar::searchForAuditorId(SbString id)
+{
+  for (int i = 0; i < numChildren; ++i) {
+    SoMenuPopup* child = childList().at(i);
+    if (child->auditorID.getValue() == id)
+      return child;
+    if (SoFormwright* found = child->searchForAuditorId(id))
+      return found;
+  }
+  return nullptr;
+}
+
+void SoMenuBar::addChild(SoMenuPopup* child)
+{
+  if (childList().insert(child, numChildren, "addChild"))
+    buildNewChild(child, -1);
+}
+
+void SoMenuBar::insertChild(SoMenuPopup* child, int index)
+{
+  if (childList().insert(child, index, "insertChild"))
+    buildNewChild(child, index);
+}
+
+SoNode* SoMenuBar::getChild(int index) const
+{
+  return childList().get(index, "");
+}
+
+int SoMenuBar::getNumChildren() const
+{
+  return numChildren;
+}
+
+int SoMenuBar::findChild(const SoMenuPopup* child) const
+{
+  return childList().find(child);
+}
+
+void SoMenuBar::removeChild(SoMenuPopup* child)
+{
+  removeChild(findChild(child));
+}
+
+void SoMenuBar::removeChild(int index)
+{
+  childList().remove(index, numChildren);
+}
+
+void SoMenuBar::removeAllChildren()
+{
+  childList().removeAll();
+}
+
+void SoMenuBar::replaceChild(SoMenuPopup* oldChild, SoMenuPopup* newChild)
+{
+  replaceChild(findChild(oldChild), newChild);
+}
+
+void SoMenuBar::replaceChild(int index, SoMenuPopup* newChild)
+{
+  if (childList().replace(index, newChild, numChildren))
+    buildNewChild(newChild, -1);
+}
+
+void SoMenuBar::buildNewChild(SoMenuPopup* child, int position)
+{
+  if (firstBuild)
+    return;
+  if (buildMode)
+    child->buildMenu(menuBar.data(), buildMode, position);
+  updateAfterSceneGraphChange();
+}
+
+void SoMenuBar::updateAfterSceneGraphChange() {}
+
+SoChildList* SoMenuBar::getChildren() const
+{
+  return children;
+}
+
+SbBool SoMenuBar::readInstance(SoInput* in, unsigned short flags)
+{
+  return fileForm().readInstance(in, flags);
+}
+
+int SoMenuBar::readChildren(SoInput* in)
+{
+  return fileForm().readChildren(in);
+}
+
+void SoMenuBar::write(SoWriteAction* action)
+{
+  fileForm().write(action, true, false);
 }

@@ -1,8 +1,10 @@
 #include <SoMenuCheckBoxLauncher.h>
 
 #include "SoFormwrightSubNodeSource.h"
+#include "SoLauncherChildren.h"
 
 SO_FORMWRIGHT_SOURCE(SoMenuCheckBoxLauncher, SoMenuCheckBox, "MenuCheckBoxLauncher")
+SO_FORMWRIGHT_LAUNCHER_OPERATIONS(SoMenuCheckBoxLauncher, numChildren - 1)
 
 SoMenuCheckBoxLauncher::SoMenuCheckBoxLauncher()
 {
@@ -10,4 +12,22 @@ SoMenuCheckBoxLauncher::SoMenuCheckBoxLauncher()
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
-SoMenuCheckBoxLauncher::~SoMenuCheckBoxLauncher() = default;
+// The dialogs are hidden and left to the child list.
+SoMenuCheckBoxLauncher::~SoMenuCheckBoxLauncher()
+{
+  for (int i = 0; i < numChildren; ++i)
+    childList().at(i)->hide();
+}
+
+void SoMenuCheckBoxLauncher::menuEvent(void* data, int id)
+{
+  SoMenuCheckBox::menuEvent(data, id);
+  for (int i = 0; i < numChildren; ++i) {
+    SoTopLevelDialog* dialog = childList().at(i);
+    SoLauncherDialogs::build(dialog, this);
+    if (state.getValue())
+      dialog->show();
+    else
+      dialog->hide();
+  }
+}

@@ -1,8 +1,10 @@
 #include <SoMenuPushButtonLauncher.h>
 
 #include "SoFormwrightSubNodeSource.h"
+#include "SoLauncherChildren.h"
 
 SO_FORMWRIGHT_SOURCE(SoMenuPushButtonLauncher, SoMenuPushButton, "MenuPushButtonLauncher")
+SO_FORMWRIGHT_LAUNCHER_OPERATIONS(SoMenuPushButtonLauncher, numChildren - 1)
 
 SoMenuPushButtonLauncher::SoMenuPushButtonLauncher()
 {
@@ -10,4 +12,17 @@ SoMenuPushButtonLauncher::SoMenuPushButtonLauncher()
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
-SoMenuPushButtonLauncher::~SoMenuPushButtonLauncher() = default;
+SoMenuPushButtonLauncher::~SoMenuPushButtonLauncher()
+{
+  removeAllChildren();
+}
+
+void SoMenuPushButtonLauncher::menuEvent(void* data, int id)
+{
+  SoMenuPushButton::menuEvent(data, id);
+  for (int i = 0; i < numChildren; ++i) {
+    SoTopLevelDialog* dialog = childList().at(i);
+    SoLauncherDialogs::build(dialog, this);
+    dialog->show();
+  }
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+// What the four launcher classes share: their children are the dialogs they
+// open, read from the dialog file after the launcher's fields. A launcher
+// declares the members that SO_FORMWRIGHT_LAUNCHER_OPERATIONS defines and
+// befriends SoMenuChildren and SoFormwrightChildren for itself.
+
+#include <SoTopLevelDialog.h>
+
+#include "SoFormwrightChildren.h"
+#include "SoMenuChildren.h"
+#include "SoQt.h"
+
+namespace SoLauncherDialogs {
+
+// A dialog is built at its launcher's first need of it, as a window of the
+// application's main widget, and stays built when it is hidden. The
+// launcher is its parent from then on.
+inline void build(SoTopLevelDialog* dialog, SoFormwright* launcher)
+{
+  if (dialog->getBaseWidget())
+    return;
+  dialog->buildDialog(Formwright::SoQt::getTopLevelWidget(), 0);
+  dialog->setParent(launcher);
+}
+
+}
+
+// The child, file and search operations of launcher class `K`. A removal or
+// replacement out of range names `removalLast` as the highest index.
+#define SO_FORMWRIGHT_LAUNCHER_OPERATIONS(K, removalLast)                                          \
+  SoMenuChildren<K, SoTopLevelDialog> K::childList() const { return {const_cast<K&>(*this), #K}; } \
+  SoFormwrightChildren<K, SoTopLevelDialog> K::fileForm() const { return {const_cast<K&>(*this), #K}; } \
+  void K::addChild(SoTopLevelDialog* child) { childList().insert(child, numChildren, "addChild"); } \
+  void K::insertChild(SoTopLevelDialog* child, int index) { childList().insert(child, index, "insertChild"); } \
+  SoNode* K::getChild(int index) const { return childList().get(index, "; Be careful"); }         \
+  int K::getNumChildren() const { return numChildren; }                                            \
+  int K::findChild(const SoTopLevelDialog* child) const { return childList().find(child); }        \
+  void K::removeChild(SoTopLevelDialog* child) { removeChild(findChild(child)); }                  \
+  void K::removeChild(int index) { childList().remove(index, removalLast); }                       \
+  void K::removeAllChildren() { childList().removeAll(); }                                         \
+  void K::replaceChild(SoTopLevelDialog* oldChild, SoTopLevelDialog* newChild)                     \
+  {                                                                                                \
+    replaceChild(findChild(oldChild), newChild);                                                   \
+  }                                                                                                \
+  void K::replaceChild(int index, SoTopLevelDialog* newChild) { childList().replace(index, newChild, removalLast); } \
+  SoChildList* K::getChildren() const { return children; }                                         \
+  SbBool K::readInstance(SoInput* in, unsigned short flags) { return fileForm().readInstance(in, flags); } \
+  int K::readChildren(SoInput* in) { return fileForm().readChildren(in); }                         \
+  void K::write(SoWriteAction* action) { fileForm().write(action, true, false); }                  \
+  SoFormwright* K::searchForAuditorId(SbString id)                                                 \
+  {                                                                                                \
+    for (int i = 0; i < numChildren; ++i) {                                                        \
+      SoTopLevelDialog* child = childList().at(i);                                                 \
+      if (child->auditorID.getValue() == id)                                                       \
+        return child;                                                                              \
+      if (SoFormwright* found = child->searchForAuditorId(id))                                     \
+        return found;                                                                              \
+    }                                                                                              \
+    return nullptr;                                                                                \
+  }

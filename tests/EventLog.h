@@ -1,0 +1,55 @@
+#pragma once
+
+// A general auditor for the tests of menus and launchers: it writes down
+// each control it hears of as "kind:auditorID:value", and, if a dialog is
+// watched, whether that dialog was on screen at that moment.
+
+#include <SoDialogAuditor.h>
+#include <SoDialogCheckBox.h>
+#include <SoDialogPushButton.h>
+#include <SoMenuCheckBox.h>
+#include <SoMenuFileSelection.h>
+#include <SoMenuPushButton.h>
+#include <SoMenuRadioButtons.h>
+#include <SoTopLevelDialog.h>
+
+#include <QWidget>
+
+#include <string>
+#include <vector>
+
+class EventLog : public SoDialogAuditor {
+public:
+  void dialogPushButton(SoDialogPushButton* node) override { note("button", node, ""); }
+  void dialogCheckBox(SoDialogCheckBox* node) override { note("check", node, node->state.getValue() ? "TRUE" : "FALSE"); }
+  void menuPushButton(SoMenuPushButton* node) override { note("push", node, ""); }
+  void menuCheckBox(SoMenuCheckBox* node) override
+  {
+    note("menuCheck", node, node->state.getValue() ? "TRUE" : "FALSE");
+    if (stateToSet >= 0)
+      node->state = stateToSet;
+  }
+  void menuRadioButtons(SoMenuRadioButtons* node) override
+  {
+    note("radio", node, std::to_string(node->selectedItem.getValue()));
+  }
+  void menuFileSelection(SoMenuFileSelection* node) override
+  {
+    note("file", node, std::string(node->fileDirectory.getValue().getString()) + "|" +
+                         node->filename.getValue().getString());
+  }
+
+  std::vector<std::string> entries;
+  SoTopLevelDialog* watched = nullptr;
+  // A value that menuCheckBox writes back into the entry's state, if set.
+  int stateToSet = -1;
+
+private:
+  void note(const char* kind, SoFormwright* node, const std::string& value)
+  {
+    std::string entry = std::string(kind) + ":" + node->auditorID.getValue().getString() + ":" + value;
+    if (watched)
+      entry += watched->getBaseWidget() && watched->getBaseWidget()->isVisible() ? ":shown" : ":hidden";
+    entries.push_back(entry);
+  }
+};

@@ -1,0 +1,226 @@
+// Menu bars and popups: reading, building into Qt, child operations, sizes
+// and the accelerator texts.
+
+#include "ControlTestSupport.h"
+#include "TestSupport.h"
+
+#include <SoMenuBar.h>
+#include <SoMenuItem.h>
+#include <SoMenuPopup.h>
+#include <SoTopLevelDialog.h>
+
+#include <QAction>
+#include <QLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+// The protected text services, as a subclass sees them.
+struct MenuText : SoMenuItem {
+  using SoMenuItem::buildTitleForMotifMenu;
+  using SoMenuItem::getAccelerator;
+  using SoMenuItem::getKeyCombination;
+};
+
+SbString keys(const char* text)
+{
+  return MenuText::getKeyCombination(text, nullptr, 0);
+}
+
+const char* const kWindow = R"(#Inventor V2.1 ascii
+TopLevelDialog {
+  MenuBar {
+    auditorID "bar"
+    MenuPopup {
+      label "File"
+      auditorID "file"
+      MenuPopup { label "Recent" auditorID "recent" MenuPopup { label "Older" auditorID "older" } }
+    }
+    MenuPopup { label "Größe" auditorID "size" }
+  }
+  DialogLabel { label "Body" }
+}
+)";
+
+class MenuStructure : public ::testing::Test {
+protected:
+  void SetUp() override
+  {
+    SoSeparator* root = readScene(kWindow);
+    ASSERT_NE(root, nullptr);
+    window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    bar = static_cast<SoMenuBar*>(window->getChild(0));
+    file = static_cast<SoMenuPopup*>(bar->getChild(0));
+    recent = static_cast<SoMenuPopup*>(file->getChild(0));
+  }
+
+  static QMenuBar* placedBar(SoTopLevelDialog* dialog)
+  {
+    return qobject_cast<QMenuBar*>(dialog->getBaseWidget()->layout()->menuBar());
+  }
+  static QStringList titles(const QWidget* menu)
+  {
+    QStringList result;
+    for (const QAction* action : menu->actions())
+      result << action->text();
+    return result;
+  }
+
+  SoTopLevelDialog* window = nullptr;
+  SoMenuBar* bar = nullptr;
+  SoMenuPopup* file = nullptr;
+  SoMenuPopup* recent = nullptr;
+};
+
+TEST_F(MenuStructure, windowPlacesItsBarWithPopupsAndCascades)
+{
+  window->buildDialog(nullptr, 0);
+  QMenuBar* qt = placedBar(window);
+  ASSERT_NE(qt, nullptr);
+  EXPECT_EQ(titles(qt), (QStringList{"File", QString::fromUtf8("Größe")}))
+    << "a popup's title keeps characters beyond Latin-1";
+  QMenu* fileMenu = qt->actions()[0]->menu();
+  ASSERT_NE(fileMenu, nullptr);
+  EXPECT_EQ(titles(fileMenu), QStringList{"Recent"});
+  EXPECT_EQ(titles(fileMenu->actions()[0]->menu()), QStringList{"Older"});
+  EXPECT_EQ(recent->getMenuBar(), bar);
+
+  file->label = "Document";
+  EXPECT_EQ(qt->actions()[0]->text(), "Document");
+  file->enable = FALSE;
+  EXPECT_FALSE(fileMenu->isEnabled());
+  bar->enable = FALSE;
+  EXPECT_FALSE(qt->isEnabled());
+
+  // Each build of the bar hands the window a new QMenuBar, and the popups,
+  // which hold their menus already, add nothing to it.
+  window->updateDialogBuild(1);
+  QMenuBar* again = placedBar(window);
+  EXPECT_NE(again, qt);
+  EXPECT_TRUE(again->actions().isEmpty());
+}
+
+TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
+{
+  auto* early = new SoMenuPopup;
+  early->label = "Early";
+  file->addChild(early);
+  EXPECT_EQ(early->getParent(), file);
+
+  window->buildDialog(nullptr, 0);
+  QMenu* fileMenu = placedBar(window)->actions()[0]->menu();
+  EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early"})) << "the first build makes them in child order";
+
+  auto* first = new SoMenuPopup;
+  first->label = "First";
+  file->insertChild(first, 0);
+  EXPECT_EQ(file->getChild(0), first);
+  EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early", "First"})) << "Qt items always go last";
+
+  auto* replacement = new SoMenuPopup;
+  replacement->label = "Other";
+  file->replaceChild(early, replacement);
+  file->removeChild(recent);
+  EXPECT_EQ(file->getNumChildren(), 2);
+  EXPECT_EQ(file->getChild(1), replacement);
+  EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early", "First", "Other"})) << "nothing leaves the Qt menu";
+}
+
+TEST_F(MenuStructure, misuseOfTheChildOperationsIsReported)
+{
+  DebugMessages messages;
+  bar->addChild(nullptr);
+  EXPECT_TRUE(messages.contains("SoMenuBar::addChild(): NULL child node"));
+  bar->insertChild(new SoMenuPopup, 3);
+  EXPECT_TRUE(messages.contains("SoMenuBar::insertChild(): Index 3 is out of range 0 - 2"));
+  EXPECT_EQ(bar->getChild(2), nullptr);
+  EXPECT_TRUE(messages.contains("SoMenuBar::getChild(): Index 2 is out of range 0 - 2"));
+  EXPECT_FALSE(messages.contains("Be careful"));
+  bar->removeChild(new SoMenuPopup);
+  EXPECT_TRUE(messages.contains("SoMenuBar::removeChild(): Index -1 is out of range 0 - 2"));
+  bar->replaceChild(2, new SoMenuPopup);
+  EXPECT_TRUE(messages.contains("SoMenuBar::replaceChild(): Index 2 is out of range 0 - 2"));
+  file->insertChild(new SoMenuPopup, 2);
+  EXPECT_TRUE(messages.contains("SoMenuPopup::insertChild(): Index 2 is out of range 0 - 1"));
+  ASSERT_EQ(messages.count(), 6u);
+
+  EXPECT_EQ(bar->getChild(-1), nullptr);
+  EXPECT_EQ(messages.count(), 6u) << "a negative index is not reported";
+  file->insertChild(new SoMenuPopup, 1);
+  EXPECT_EQ(file->getNumChildren(), 2) << "the index just past the end is valid";
+  EXPECT_EQ(bar->getNumChildren(), 2);
+}
+
+TEST(MenuFiles, onlyPopupsGoInBarsAndOnlyItemsInPopups)
+{
+  DebugMessages messages;
+  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPushButton { } } }\n"), nullptr);
+  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nMenuPopup { DialogLabel { } }\n"), nullptr);
+  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nMenuBar { MenuBar { } }\n"), nullptr);
+  EXPECT_NE(readScene("#Inventor V2.1 ascii\nMenuPopup { MenuPopup { } MenuSeparator { } }\n"), nullptr);
+}
+
+TEST_F(MenuStructure, searchEntersPopupsAndCascades)
+{
+  EXPECT_EQ(window->searchForAuditorId("older")->getParent(), recent);
+  EXPECT_EQ(window->searchForAuditorId("size"), bar->getChild(1));
+  EXPECT_EQ(bar->searchForAuditorId("recent"), recent);
+  EXPECT_EQ(file->searchForAuditorId("file"), nullptr) << "the searching node itself is not compared";
+}
+
+TEST_F(MenuStructure, sizesFollowTheLabels)
+{
+  SbVec2i32 size, min, max;
+  bar->getSize(size, min, max);
+  const int fileWidth = textPixels("File")[0];
+  const int sizeWidth = textPixels("Größe")[0];
+  EXPECT_EQ(size, SbVec2i32(fileWidth + 9 + sizeWidth + 9 + 10, 19));
+  EXPECT_EQ(min, SbVec2i32(0, 0));
+  EXPECT_EQ(max, SbVec2i32(32767, 32767));
+
+  auto* empty = makeNode<SoMenuBar>();
+  empty->getSize(size, min, max);
+  EXPECT_EQ(size, SbVec2i32(10, 19));
+
+  EXPECT_EQ(file->getItemInitSize(), SbVec2i32(fileWidth + 8, 18));
+  EXPECT_EQ(recent->getItemInitSize(), SbVec2i32(textPixels("Recent")[0] + 8 + 20, 18)) << "room for the arrow";
+}
+
+TEST(MenuTexts, keyCombinationsSortTheModifiersByWeight)
+{
+  EXPECT_EQ(keys(""), SbString(""));
+  EXPECT_EQ(keys("F1"), SbString("F1"));
+  EXPECT_EQ(keys("Ctrl+Shift+N"), SbString("Shift+Ctrl+N"));
+  EXPECT_EQ(keys("Shift Ctrl+N"), SbString("Shift+Ctrl+ N")) << "the blank before the key stays";
+  EXPECT_EQ(keys("CTRLshiftN"), SbString("Shift+Ctrl+N"));
+  EXPECT_EQ(keys("alt+shift+ctrl+x"), SbString("Alt+Shift+Ctrl+x"));
+  EXPECT_EQ(keys("Halt"), SbString("Alt+H")) << "a word is taken out of the key's name too";
+  EXPECT_EQ(keys("Ctl+META+p"), SbString("Meta+Ctrl+p"));
+  EXPECT_EQ(keys("meta+p"), SbString("metap")) << "there is no lower-case meta";
+  // Weights add: a word twice is worth the next modifier up.
+  EXPECT_EQ(keys("Ctrl+ctrl+X"), SbString("Shift+X"));
+  EXPECT_EQ(keys("Shift+shift+X"), SbString("Meta+X"));
+  EXPECT_EQ(keys("Alt+alt+X"), SbString("Alt+Meta+Shift+X"));
+  EXPECT_EQ(keys("Ctrl++"), SbString("Ctrl+")) << "every + goes, leaving no key";
+}
+
+TEST(MenuTexts, acceleratorAndTitleHelpers)
+{
+  EXPECT_EQ(MenuText::getAccelerator("Open\tCtrl+O"), SbString("Ctrl+O"));
+  EXPECT_EQ(MenuText::getAccelerator("Open"), SbString(""));
+
+  SbString shown;
+  EXPECT_EQ(MenuText::buildTitleForMotifMenu("&File\tCtrl+F", shown), 'F');
+  EXPECT_EQ(shown, SbString("File"));
+  EXPECT_EQ(MenuText::buildTitleForMotifMenu("Save &as &copy", shown), 'c');
+  EXPECT_EQ(shown, SbString("Save as copy"));
+  EXPECT_EQ(MenuText::buildTitleForMotifMenu("Fish && chips", shown), '&');
+  EXPECT_EQ(shown, SbString("Fish & chips"));
+  EXPECT_EQ(MenuText::buildTitleForMotifMenu("Plain", shown), 0);
+}
+
+}
