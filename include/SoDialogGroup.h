@@ -73,6 +73,7 @@ public:
 
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
+  void addWriteReference(SoOutput* out, SbBool isFromField = FALSE) override;
 
 protected:
   ~SoDialogGroup() override;

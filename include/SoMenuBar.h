@@ -63,6 +63,7 @@ public:
 
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
+  void addWriteReference(SoOutput* out, SbBool isFromField = FALSE) override;
 
 protected:
   ~SoMenuBar() override;

@@ -40,6 +40,7 @@ public:
 
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
+  void addWriteReference(SoOutput* out, SbBool isFromField = FALSE) override;
 
 protected:
   ~SoMenuCheckBoxLauncher() override;

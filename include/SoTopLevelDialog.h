@@ -131,6 +131,7 @@ public:
 
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
+  void addWriteReference(SoOutput* out, SbBool isFromField = FALSE) override;
 
 protected:
   ~SoTopLevelDialog() override;

@@ -180,21 +180,23 @@ std::string writeToText(What* what, bool binary = false)
   return text;
 }
 
+// A dialog file is written from its root, as an application saves it.
 TEST(DialogFileWriting, writtenDialogReadsBackTheSameInTextAndBinary)
 {
   SoSeparator* original = readScene(std::string(kHeader) + kExportDialog);
   ASSERT_NE(original, nullptr);
-  const std::string text = writeToText(original->getChild(0));
+  const std::string text = writeToText(original);
   EXPECT_EQ(text.find("geomSwitch"), std::string::npos) << "kit parts are not part of a dialog file";
+  EXPECT_EQ(text.find("topSeparator"), std::string::npos);
   EXPECT_EQ(text.find("width"), std::string::npos) << "a size left to be computed is not written";
-  EXPECT_NE(text.find("DialogPushButton"), std::string::npos);
+  EXPECT_NE(text.find("DialogPushButton"), std::string::npos) << text;
   EXPECT_NE(text.find("columnSpacing 6"), std::string::npos);
 
   SoSeparator* fromText = readScene(text);
-  SoSeparator* fromBinary = readScene(writeToText(original->getChild(0), true));
+  SoSeparator* fromBinary = readScene(writeToText(original, true));
   ASSERT_TRUE(fromText && fromBinary);
-  EXPECT_EQ(writeToText(fromText->getChild(0)), text);
-  EXPECT_EQ(writeToText(fromBinary->getChild(0)), text);
+  EXPECT_EQ(writeToText(fromText), text);
+  EXPECT_EQ(writeToText(fromBinary), text);
 }
 
 TEST(DialogFileWriting, writingPartOfAPathStopsAtThePathsChild)

@@ -268,6 +268,11 @@ void SoDialogGroup::write(SoWriteAction* action)
   childList().write(action, false, true);
 }
 
+void SoDialogGroup::addWriteReference(SoOutput* out, SbBool isFromField)
+{
+  childList().addWriteReference(out, isFromField);
+}
+
 void SoDialogGroup::change3DWidgetEnable(int enabled)
 {
   SoDialogComponent::change3DWidgetEnable(enabled);

@@ -196,6 +196,19 @@ public:
     return ok;
   }
 
+  // The toolkit counts what a write will hold through this call alone, never
+  // through write. The kit counts the owner and decides which of its parts
+  // are worth writing; the owner then counts its children, the first time it
+  // is met, as a group does. An uncounted child is not written at all.
+  void addWriteReference(SoOutput* out, SbBool isFromField) const
+  {
+    m_owner.SoBaseKit::addWriteReference(out, isFromField);
+    if (isFromField || m_owner.hasMultipleWriteRefs())
+      return;
+    for (int i = 0; i < m_owner.numChildren; ++i)
+      (*m_owner.children)[i]->addWriteReference(out, FALSE);
+  }
+
   // Writes the owner's fields and its child components, never its kit parts.
   // `clampPathIndex` keeps a path's index inside the children;
   // `skipChildrenInCluster` leaves the children out when a cluster or a
@@ -206,8 +219,6 @@ public:
     const int count = m_owner.numChildren;
     if (out->getStage() == SoOutput::COUNT_REFS) {
       m_owner.addWriteReference(out, FALSE);
-      if (!m_owner.hasMultipleWriteRefs() && count > 0)
-        m_owner.children->traverse(action, 0, count - 1);
       return;
     }
     if (m_owner.writeHeader(out, TRUE, FALSE))

@@ -48,6 +48,7 @@ inline void build(SoTopLevelDialog* dialog, SoFormwright* launcher)
   SbBool K::readInstance(SoInput* in, unsigned short flags) { return fileForm().readInstance(in, flags); } \
   int K::readChildren(SoInput* in) { return fileForm().readChildren(in); }                         \
   void K::write(SoWriteAction* action) { fileForm().write(action, true, false); }                  \
+  void K::addWriteReference(SoOutput* out, SbBool isFromField) { fileForm().addWriteReference(out, isFromField); } \
   SoFormwright* K::searchForAuditorId(SbString id)                                                 \
   {                                                                                                \
     for (int i = 0; i < numChildren; ++i) {                                                        \

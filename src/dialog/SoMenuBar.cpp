@@ -208,3 +208,8 @@ void SoMenuBar::write(SoWriteAction* action)
 {
   fileForm().write(action, true, false);
 }
+
+void SoMenuBar::addWriteReference(SoOutput* out, SbBool isFromField)
+{
+  fileForm().addWriteReference(out, isFromField);
+}

@@ -194,3 +194,8 @@ void SoMenuPopup::write(SoWriteAction* action)
 {
   fileForm().write(action, true, false);
 }
+
+void SoMenuPopup::addWriteReference(SoOutput* out, SbBool isFromField)
+{
+  fileForm().addWriteReference(out, isFromField);
+}

@@ -499,6 +499,11 @@ void SoTopLevelDialog::write(SoWriteAction* action)
   childList().write(action, true, false);
 }
 
+void SoTopLevelDialog::addWriteReference(SoOutput* out, SbBool isFromField)
+{
+  childList().addWriteReference(out, isFromField);
+}
+
 // The scene form: a plate that carries the children on its top, with a title
 // and a minimize button, dragged in its own plane.
 
