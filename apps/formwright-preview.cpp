@@ -1,8 +1,9 @@
 // Opens a dialog file, shows the dialog and prints one line for every action
 // of the user. With no file it opens a built-in dialog that shows every
 // control. Without a display it renders the dialog to a PNG file and exits.
+// With --3d the dialog is built as geometry and stands in a 3D scene.
 //
-//   formwright-preview [FILE] [--id AUDITOR_ID] [--screenshot PNG] [--list]
+//   formwright-preview [FILE] [--id AUDITOR_ID] [--3d] [--screenshot PNG] [--list]
 
 #include "PreviewAuditor.h"
 #include "ShowcaseDialog.h"
@@ -11,6 +12,9 @@
 #include <SoDialogGroup.h>
 #include <SoFormwright.h>
 #include <SoTopLevelDialog.h>
+
+#include "SoFormMode.h"
+#include "SoQtSceneViewer.h"
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
@@ -29,6 +33,11 @@
 namespace {
 
 const char* const kDefaultScreenshot = "formwright-preview.png";
+// Room around a dialog in the scene, in scene units on each side, and the
+// pixels given to a scene unit: the dialog's own sizes count a unit for a
+// pixel, and its small type reads better enlarged.
+const int kSceneMargin = 10;
+const int kSceneScale = 2;
 
 bool hasDisplay()
 {
@@ -144,12 +153,39 @@ int run(const QCommandLineParser& options)
 
   PreviewAuditor auditor(stdout);
   dialog->addAuditor(&auditor);
+  // The environment preference may have chosen the scene form already.
+  const bool inScene = options.isSet("3d") || SoFormMode::isSceneForm();
+  if (inScene)
+    SoFormMode::setSceneForm(true);
   dialog->buildDialog(nullptr, 0);
-  dialog->show();
 
   QString screenshot = options.value("screenshot");
   if (screenshot.isEmpty() && drawsOffScreen())
     screenshot = kDefaultScreenshot;
+
+  if (inScene) {
+    auto* scene = new SoSeparator;
+    scene->ref(); // kept for the life of the program
+    scene->addChild(dialog);
+    auto* viewer = new Formwright::SoQtSceneViewer;
+    viewer->setWindowTitle(QString("%1 - formwright-preview").arg(dialog->label.getValue().getString()));
+    viewer->resize(kSceneScale * (dialog->width.getValue() + 2 * kSceneMargin),
+                   kSceneScale * (dialog->height.getValue() + 2 * kSceneMargin));
+    viewer->setSceneGraph(scene);
+    if (screenshot.isEmpty()) {
+      viewer->show();
+      return QApplication::exec();
+    }
+    const QImage image = viewer->renderToImage();
+    if (image.isNull())
+      return fail("no OpenGL context for rendering the scene; without a display, run under xvfb-run");
+    if (!image.save(screenshot, "PNG"))
+      return fail(QString("cannot write %1").arg(screenshot));
+    std::printf("wrote %s\n", screenshot.toLocal8Bit().constData());
+    return 0;
+  }
+
+  dialog->show();
   if (screenshot.isEmpty())
     return QApplication::exec();
 
@@ -176,6 +212,7 @@ int main(int argc, char** argv)
   options.addHelpOption();
   options.addPositionalArgument("file", "Dialog file to open; the built-in dialog if none.", "[FILE]");
   options.addOption({"id", "Open the node with this auditorID.", "AUDITOR_ID"});
+  options.addOption({"3d", "Build the dialog as geometry and show it standing in a 3D scene."});
   options.addOption({"screenshot", "Render the dialog to this PNG file and exit.", "PNG"});
   options.addOption({"list", "Print the tree of auditor identifiers and exit."});
   options.process(application);
