@@ -62,6 +62,23 @@ void quietOffScreenNotices(QtMsgType type, const QMessageLogContext& context, co
   std::fprintf(stderr, "%s\n", qFormatLogMessage(type, context, message).toLocal8Bit().constData());
 }
 
+// Without a skin directory of the user's own, the preview takes the default
+// skin installed beside it, or the one in the source tree it was built from,
+// rather than warn that it falls back on the built-in look.
+void findSkins()
+{
+  if (!qEnvironmentVariableIsEmpty("SCENICHOME") || !qEnvironmentVariableIsEmpty("FORMWRIGHT_SKINS_DIR"))
+    return;
+  const QStringList candidates{QCoreApplication::applicationDirPath() + "/../data/Formwright/skins",
+                               FORMWRIGHT_SOURCE_SKINS};
+  for (const QString& candidate : candidates) {
+    if (QFileInfo(candidate + "/default").isDir()) {
+      SoFormwright::setSkinsDirectories(SbString(QFileInfo(candidate).canonicalFilePath().toLocal8Bit().constData()));
+      return;
+    }
+  }
+}
+
 int fail(const QString& message)
 {
   std::fprintf(stderr, "formwright-preview: %s\n", message.toLocal8Bit().constData());
@@ -218,6 +235,7 @@ int main(int argc, char** argv)
   options.process(application);
 
   SoFormwright::init();
+  findSkins();
   const int status = run(options);
   std::fflush(stdout);
   // The process ends here; the dialog's widgets go with it.

@@ -46,7 +46,8 @@ SoQtSceneViewer::SoQtSceneViewer(QWidget* parent)
   setMouseTracking(false);
   m_root->ref();
   m_root->addChild(m_camera);
-  // A light that shines the way the camera looks.
+  // A light from the viewer's side: it shines down the z axis, as the
+  // camera looks while view-all keeps its orientation.
   m_root->addChild(new SoDirectionalLight);
   m_renderAction->setTransparencyType(SoGLRenderAction::SORTED_OBJECT_BLEND);
   m_sceneSensor->setPriority(0);
