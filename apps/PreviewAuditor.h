@@ -4,6 +4,7 @@
 
 #include <cstdio>
 
+class SoDialogChoice;
 class SoFormwright;
 
 // Prints one line for every action of the user: the control's type, its
@@ -14,9 +15,17 @@ public:
 
   void dialogPushButton(SoDialogPushButton* node) override;
   void dialogCheckBox(SoDialogCheckBox* node) override;
+  void dialogComboBox(SoDialogComboBox* node) override;
+  void dialogRadioButtons(SoDialogRadioButtons* node) override;
+  void dialogEditText(SoDialogEditText* node) override;
+  void dialogIntegerSlider(SoDialogIntegerSlider* node) override;
+  void dialogRealSlider(SoDialogRealSlider* node) override;
 
 private:
-  void report(SoFormwright* node, const char* value);
+  void reportChoice(SoDialogChoice* node);
 
   std::FILE* m_out;
 };
+
+// One line of the preview's output, as above.
+void reportAction(std::FILE* out, SoFormwright* node, const char* value);

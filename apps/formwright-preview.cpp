@@ -1,16 +1,20 @@
 // Opens a dialog file, shows the dialog and prints one line for every action
 // of the user. With no file it opens a built-in dialog that shows every
 // control. Without a display it renders the dialog to a PNG file and exits.
+// A message box of a dialog file is shown, or rendered, on its own.
 // With --3d the dialog is built as geometry and stands in a 3D scene.
 //
 //   formwright-preview [FILE] [--id AUDITOR_ID] [--3d] [--screenshot PNG] [--list]
 
 #include "PreviewAuditor.h"
+#include "PreviewTabAuditor.h"
 #include "ShowcaseDialog.h"
 
 #include <SoDialogComponent.h>
 #include <SoDialogGroup.h>
 #include <SoFormwright.h>
+#include <SoMessageDialog.h>
+#include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
 
 #include "SoFormMode.h"
@@ -23,7 +27,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QPixmap>
+#include <QTimer>
 #include <QWidget>
 
 #include <cstdio>
@@ -130,6 +136,46 @@ void printTree(SoFormwright* node, int depth)
     printTree(childAt(node, i), depth + 1);
 }
 
+// Page changes reach only a tab dialog's own auditors.
+void listenToPages(SoFormwright* node, PreviewTabAuditor* auditor)
+{
+  if (node->isOfType(SoTabDialog::getClassTypeId()))
+    static_cast<SoTabDialog*>(node)->addAuditor(auditor);
+  for (int i = 0; i < childCount(node); ++i)
+    listenToPages(childAt(node, i), auditor);
+}
+
+// The box blocks until it is closed. To render it, it is grabbed as soon as
+// it opens, and closed.
+int showMessage(SoMessageDialog* message, const QString& screenshot)
+{
+  if (screenshot.isEmpty()) {
+    message->show();
+    return 0;
+  }
+  bool opened = false;
+  bool saved = false;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box)
+      return;
+    watch.stop();
+    opened = true;
+    saved = box->grab().save(screenshot, "PNG");
+    box->done(0);
+  });
+  watch.start(10);
+  message->show();
+  watch.stop();
+  if (!opened)
+    return fail("the message dialog shows no box");
+  if (!saved)
+    return fail(QString("cannot write %1").arg(screenshot));
+  std::printf("wrote %s\n", screenshot.toLocal8Bit().constData());
+  return 0;
+}
+
 int run(const QCommandLineParser& options)
 {
   const QStringList files = options.positionalArguments();
@@ -155,6 +201,12 @@ int run(const QCommandLineParser& options)
     return 0;
   }
 
+  QString screenshot = options.value("screenshot");
+  if (screenshot.isEmpty() && drawsOffScreen())
+    screenshot = kDefaultScreenshot;
+  if (node->isOfType(SoMessageDialog::getClassTypeId()))
+    return showMessage(static_cast<SoMessageDialog*>(node), screenshot);
+
   SoTopLevelDialog* dialog = nullptr;
   if (node->isOfType(SoTopLevelDialog::getClassTypeId())) {
     dialog = static_cast<SoTopLevelDialog*>(node);
@@ -165,20 +217,18 @@ int run(const QCommandLineParser& options)
     dialog->label = node->auditorID.getValue();
     dialog->addChild(static_cast<SoDialogComponent*>(node));
   } else {
-    return fail(QString("the node found in %1 is not a dialog or a component").arg(source));
+    return fail(QString("the node found in %1 is not a dialog, a component or a message").arg(source));
   }
 
   PreviewAuditor auditor(stdout);
+  PreviewTabAuditor pages(stdout);
   dialog->addAuditor(&auditor);
+  listenToPages(dialog, &pages);
   // The environment preference may have chosen the scene form already.
   const bool inScene = options.isSet("3d") || SoFormMode::isSceneForm();
   if (inScene)
     SoFormMode::setSceneForm(true);
   dialog->buildDialog(nullptr, 0);
-
-  QString screenshot = options.value("screenshot");
-  if (screenshot.isEmpty() && drawsOffScreen())
-    screenshot = kDefaultScreenshot;
 
   if (inScene) {
     auto* scene = new SoSeparator;

@@ -107,6 +107,8 @@ protected:
   QFrame* groupWidget = nullptr;
   SoDialogGroupAuditor* defaultAuditor = nullptr;
   SoChildSizeTable sizeTable;
+  // False for a kind of group that makes a frame of its own in its place.
+  bool usesGroupFrame = true;
 
 private:
   void createGroupWidget();

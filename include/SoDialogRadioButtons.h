@@ -1,8 +1,14 @@
 #pragma once
 
 #include "SoDialogChoice.h"
+#include "SoDialogWidgetList.h"
 
-// A column of mutually exclusive buttons.
+#include <memory>
+
+class SoDialogQRadioButtons;
+
+// A column of mutually exclusive buttons in a group box whose title is the
+// node's label. The label thus takes no part in a group's label column.
 class SoDialogRadioButtons : public SoDialogChoice {
   SO_FORMWRIGHT_HEADER(SoDialogRadioButtons)
   SO_FORMWRIGHT_SKIN_HEADER(DialogRadioButtons)
@@ -10,6 +16,53 @@ class SoDialogRadioButtons : public SoDialogChoice {
 public:
   SoDialogRadioButtons();
 
+  void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
+  void destroyWidget() override;
+  void updateFromSensor(SoSensor* sensor) override;
+  // The title is drawn by the group box itself: nothing to do.
+  void drawLabel();
+  void resetSize() override;
+  void updateLabelWidget();
+  // The buttons are stacked by the group box's layout: nothing to place.
+  void updateRadioButtonsWidget();
+
 protected:
   ~SoDialogRadioButtons() override;
+
+  // The real choices as of the last change of the list.
+  int32_t numButtons = 0;
+  // The QRadioButton objects, by index.
+  SoDialogWidgetList buttonWidgets;
+  // The heights of the buttons in the 3D form, with their bounds, each array
+  // `numButtonSizes` long; null until computed.
+  std::unique_ptr<SbVec2i32[]> buttonSizes;
+  std::unique_ptr<SbVec2i32[]> buttonMinSizes;
+  std::unique_ptr<SbVec2i32[]> buttonMaxSizes;
+  int32_t numButtonSizes = 0;
+  // The button that the spreading of heights comes to next.
+  int32_t nextButton = 0;
+  // The widest button text and the sum of their heights, with margins.
+  SbVec2i32 buttonsSize{0, 0};
+  // 1 only while the list of items changes, for the 3D form.
+  int32_t itemsChanging = 0;
+
+private:
+  // Spreads the height of the 3D form over the buttons, a pixel at a time
+  // and button after button, each within its bounds.
+  void computeNewButtonsHeight(SbVec2i32& size);
+  void createLabelWidget();
+  void createRadioButtonsWidget(int index);
+  SbVec2i32 getComponentInitSize() override;
+  SbVec2i32 getLabelInitSize() override;
+  void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
+  void changeItemText(int index, SbString text);
+  void changeItems() override;
+  // Both a selection past the end and a negative one are mended, silently.
+  void changeSelectedItem() override;
+  void changeLabel() override;
+  void changeLabelVisibility() override;
+  void changeLabelAlignment() override;
+  SoDialogQRadioButtons* bridge() const;
+  void create3DDialogRadioButtons();
+  void update3DRadioButtons();
 };

@@ -2,6 +2,8 @@
 
 #include "SoDialogSlider.h"
 
+#include <Inventor/fields/SoSFFloat.h>
+
 class SoDialogRealSliderAuditor;
 
 // A slider over real numbers.
@@ -9,11 +11,36 @@ class SoDialogRealSlider : public SoDialogSlider {
   SO_FORMWRIGHT_HEADER(SoDialogRealSlider)
 
 public:
+  SoSFFloat min;
+  SoSFFloat max;
+  SoSFFloat value;
+
   SoDialogRealSlider();
 
   void addAuditor(SoDialogRealSliderAuditor* auditor);
   void removeAuditor(SoDialogRealSliderAuditor* auditor);
 
+  // The first slider of the class built in a process has its value held
+  // between the limits, whatever `fixedLimits` says.
+  void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
+  void updateFromSensor(SoSensor* sensor) override;
+  void applyDlgCptAuditor() override;
+
 protected:
   ~SoDialogRealSlider() override;
+
+  void setValueFromEdit(int mode) override;
+  void setValue() override;
+  void changeEditValue() override;
+  int computeEditZoneWidth() override;
+
+  SoFieldSensor* minSensor = nullptr;
+  SoFieldSensor* maxSensor = nullptr;
+  SoFieldSensor* valueSensor = nullptr;
+
+private:
+  // The position of `number` between the limits; 0 when they are equal.
+  float positionOf(float number) const;
+  // Set until the end of the first build of any real slider.
+  static bool s_firstBuild;
 };

@@ -2,14 +2,126 @@
 
 #include "SoDialogComponent.h"
 
-// The base of the sliders.
+#include <Inventor/fields/SoMFColor.h>
+#include <Inventor/fields/SoSFBool.h>
+#include <Inventor/fields/SoSFString.h>
+
+class SoDialogCustomSlider;
+class SoDialogQSlider;
+class SoKeyboardEvent;
+
+// The base of the sliders: a row of the label, a toggle of continuous
+// triggering, a bar with a colour ramp and a zone that shows and takes the
+// value. The bar's position is kept normalised, 0 at the lower limit and 1
+// at the upper one; each value class turns it into its value.
 class SoDialogSlider : public SoDialogComponent {
   SO_FORMWRIGHT_HEADER(SoDialogSlider)
   SO_FORMWRIGHT_SKIN_HEADER(DialogSlider)
 
 public:
+  // The value zone is shown.
+  SoSFBool valueVisible;
+  // The printf format of the value zone: one numeric conversion of the
+  // value's kind. Any other format gives way to the class's own.
+  SoSFString format;
+  // The value field and the auditors follow a drag of the bar, not only its
+  // end.
+  SoSFBool continuousTrigger;
+  // The toggle of `continuousTrigger` is shown.
+  SoSFBool toggleVisible;
+  // A value typed beyond a limit is held at the limit; otherwise the limit
+  // moves to the value.
+  SoSFBool fixedLimits;
+  SoMFColor colors;
+  // Several colours blend into each other; otherwise they are flat bands.
+  SoSFBool shadedColors;
+
   SoDialogSlider();
+
+  void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
+  void destroyWidget() override;
+  // Event 1 is a change of the toggle; no auditor hears of it.
+  void eventNotify(unsigned int event, unsigned long long data) override;
+  // Null in the 2D form: the label lives inside the slider's frame.
+  QWidget* getLabelWidget() override;
+  void updateFromSensor(SoSensor* sensor) override;
+  // The bar's normalised position.
+  float getValue();
+  // The bar's callbacks, with the node as data: one while the user drags,
+  // one where the drag ends.
+  static void finishCallback(void* data, float value);
+  static void valueChangeCallback(void* data, float value);
+  void changeValueFromSlider(float value);
+  void changeValueAfterFinish(float value);
+  // The value zone's text, taken on Return.
+  void changeSliderFromEdit();
+  void updateEditWidget();
+  void updateSliderWidget();
+  void updateLabelWidget();
+  void updateToggleWidget();
+  virtual void applyDlgCptAuditor();
 
 protected:
   ~SoDialogSlider() override;
+
+  // The value classes give these their meaning.
+  virtual void setValueFromEdit(int mode);
+  virtual void setValueFromSlider(float value);
+  virtual void changeSliderValue();
+  virtual void setValue();
+  virtual void changeEditValue();
+  virtual int computeEditZoneWidth();
+  virtual void changeValueVisible();
+  virtual void changeToggleVisible();
+  virtual void changeContinuousTrigger();
+  // A new format shows at the next change of the value.
+  virtual void changeFormat();
+  // The 3D form; empty until the in-scene presentation is built.
+  virtual void change3DEditValue();
+  virtual void computeNewSliderEditValue(SoKeyboardEvent* event);
+  virtual void finish3DEditing();
+
+  void changeLabel() override;
+  void changeLabelVisibility() override;
+  void changeLabelAlignment() override;
+  void changeEnable() override;
+
+  // The value zone's text, as typed.
+  SbString getValueFromEdit();
+  // Measures the value zone again and places the pieces anew, after a limit
+  // changed.
+  void updateWidget();
+  // The text that the 3D form's value zone holds.
+  SbString get3DValueFromEdit();
+  void change3DSliderValue();
+  void change3DCursor();
+
+  SoDialogQSlider* sliderWidget = nullptr;
+  SoDialogCustomSlider* customSlider = nullptr;
+  // Cleared once the frame owns the bar.
+  char ownsCustomSlider = 1;
+  int32_t sliderWidth = 0;
+  int32_t editZoneWidth = 0;
+  // The position: 0 at `min`, 1 at `max`, beyond them for a value set
+  // outside the limits.
+  float normalizedValue = 0.0f;
+  SoFieldSensor* colorsSensor = nullptr;
+  SoFieldSensor* shadedColorsSensor = nullptr;
+  SoFieldSensor* valueVisibleSensor = nullptr;
+  SoFieldSensor* continuousTriggerSensor = nullptr;
+  SoFieldSensor* toggleVisibleSensor = nullptr;
+  SoFieldSensor* fixedLimitsSensor = nullptr;
+  SoFieldSensor* formatSensor = nullptr;
+
+private:
+  void createLabelWidget();
+  void changeColors();
+  SbVec2i32 getComponentInitSize() override;
+  void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
+  void change3DValueVisible();
+  void change3DToggleVisible();
+  void change3DContinuousTrigger();
+  void create3DDialogSlider();
+  void update3DSlider();
+  void update3DLabel();
 };

@@ -15,6 +15,7 @@
 #include <QFont>
 
 #include <initializer_list>
+#include <vector>
 
 class QWidget;
 class SbPList;
@@ -181,20 +182,22 @@ protected:
   void removeAuditor(SoAuditor* auditor);
   SoAuditor*& getAuditor(int index);
   int getAuditorListLength() const;
+  // The auditors as they stand when an event starts: each of them hears it,
+  // even when one removes itself or another while it is called.
+  std::vector<SoAuditor*> getAuditorsNow() const;
   // Tells a control's own auditors, all of class `Auditor`, of an event, in
   // the order they were added. A control with an auditor of its own is heard
   // by nobody else; one with none leaves the event to its parent.
   template <class Auditor, class Node>
   void applyControlAuditors(Node* node, void (Auditor::*operation)(Node*))
   {
-    const int count = getAuditorListLength();
-    if (count == 0) {
+    if (getAuditorListLength() == 0) {
       if (parentNode)
         parentNode->applyAuditor(node);
       return;
     }
-    for (int i = 0; i < count; ++i)
-      (static_cast<Auditor*>(getAuditor(i))->*operation)(node);
+    for (SoAuditor* auditor : getAuditorsNow())
+      (static_cast<Auditor*>(auditor)->*operation)(node);
   }
 
   // A container's general auditors hear of a control below it, each sorted

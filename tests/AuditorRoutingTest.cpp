@@ -112,6 +112,32 @@ TEST_F(AuditorRouting, pressClimbsToTheFirstGroupWithAuditorsWhichHearInOrder)
   EXPECT_EQ(log, (std::vector<std::string>{"first:button:apply", "second:button:apply"}));
 }
 
+// An auditor that is done after one event takes itself away while it hears.
+class OneShot : public Recorder {
+public:
+  OneShot(std::vector<std::string>& log, SoDialogGroup* node) : Recorder(log, "once"), m_node(node) {}
+  void dialogPushButton(SoDialogPushButton* button) override
+  {
+    Recorder::dialogPushButton(button);
+    m_node->removeAuditor(this);
+  }
+
+private:
+  SoDialogGroup* m_node;
+};
+
+TEST_F(AuditorRouting, auditorRemovingItselfLetsTheOthersHearTheSameEvent)
+{
+  OneShot once(log, inner);
+  Recorder after(log, "after");
+  inner->addAuditor(&once);
+  inner->addAuditor(&after);
+  build();
+  pressApply();
+  pressApply();
+  EXPECT_EQ(log, (std::vector<std::string>{"once:button:apply", "after:button:apply", "after:button:apply"}));
+}
+
 TEST_F(AuditorRouting, controlWithItsOwnAuditorIsHeardByNoGroup)
 {
   Recorder group(log, "group");

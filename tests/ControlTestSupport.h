@@ -20,6 +20,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <vector>
 
 // A window-like parent with a vertical layout, into which stand-alone
 // controls build.
@@ -37,6 +38,15 @@ struct ControlWindow {
   Widget* find(const char* objectName) const
   {
     return widget.findChild<Widget*>(objectName);
+  }
+  // The direct widget children of `parent`, in the order they were made.
+  static std::vector<QWidget*> childWidgets(const QWidget* parent)
+  {
+    std::vector<QWidget*> widgets;
+    for (QObject* child : parent->children())
+      if (child->isWidgetType())
+        widgets.push_back(static_cast<QWidget*>(child));
+    return widgets;
   }
 };
 

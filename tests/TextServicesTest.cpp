@@ -7,7 +7,6 @@
 
 #include <Inventor/SbViewportRegion.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
-#include <Inventor/fields/SoFieldData.h>
 #include <Inventor/nodes/SoFont.h>
 #include <Inventor/nodes/SoText3.h>
 #include <QFontMetrics>
@@ -28,24 +27,6 @@ public:
   using SoFormwright::insertTextTo3DText;
   using SoFormwright::setStringToText3;
   using SoFormwright::wrap3DTextLine;
-};
-
-// An edit text with the multiLine field that the control carries; the field
-// table is this class's own, so that the field can be found by name.
-class MultiLineEditText : public SoDialogEditText {
-public:
-  SoSFBool multiLine;
-
-  MultiLineEditText() : m_fields(new SoFieldData(*SoDialogEditText::getFieldDataPtr()))
-  {
-    m_fields->addField(this, "multiLine", &multiLine);
-    multiLine.setContainer(this);
-    multiLine.setValue(TRUE);
-  }
-  const SoFieldData* getFieldData() const override { return m_fields; }
-
-private:
-  SoFieldData* m_fields;
 };
 
 // The measure of text as the library takes it: the widest line, the height
@@ -108,11 +89,11 @@ TEST(TextServices, labelPixelSizeTakesTheWidestLineAndAllHeights)
 
   // An edit text counts its lines unless its multiLine field says otherwise.
   const SbString text("first\\nsecond line");
-  MultiLineEditText* singleLine = makeNode<MultiLineEditText>();
-  singleLine->multiLine = FALSE;
-  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, singleLine), measure({"first\r\nsecond line"}));
-  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, makeNode<MultiLineEditText>()), measure({"first\r", "second line"}));
-  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, makeNode<SoDialogEditText>()), measure({"first\r", "second line"}));
+  auto* editText = makeNode<SoDialogEditText>();
+  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, editText), measure({"first\r\nsecond line"}))
+    << "one line by default, as wide as the whole text";
+  editText->multiLine = TRUE;
+  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, editText), measure({"first\r", "second line"}));
 }
 
 TEST(TextServices, newFontChangesLaterMeasuresButNotBuiltWidgets)

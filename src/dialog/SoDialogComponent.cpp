@@ -217,13 +217,18 @@ void SoDialogComponent::createComponentWidget(QWidget* parent)
   componentWidget = parent;
 
   QBoxLayout* parentLayout = nullptr;
-  if (parentNode && parentNode->isOfType(SoTopLevelDialog::getClassTypeId()))
+  if (parentNode && parentNode->isOfType(SoTopLevelDialog::getClassTypeId())) {
     parentLayout = static_cast<SoTopLevelDialog*>(parentNode)->getLayout();
-  else if (parentNode && parentNode->isOfType(SoDialogComponent::getClassTypeId()))
+  } else if (parentNode && parentNode->isOfType(SoTabDialog::getClassTypeId())) {
+    // Each component of a tab dialog goes into the layout of its own page.
+    auto* tabs = static_cast<SoTabDialog*>(parentNode);
+    parentLayout = qobject_cast<QBoxLayout*>(static_cast<QLayout*>(tabs->getLayout(tabs->findChild(this))));
+  } else if (parentNode && parentNode->isOfType(SoDialogComponent::getClassTypeId())) {
     parentLayout = static_cast<QBoxLayout*>(static_cast<SoDialogComponent*>(parentNode)->getLayout());
-  else if (parent)
+  } else if (parent) {
     // A component standing alone goes into its parent widget's layout.
     parentLayout = qobject_cast<QBoxLayout*>(parent->layout());
+  }
 
   const bool stacked = parentNode && (parentNode->isOfType(SoColumnDialog::getClassTypeId()) ||
                                       parentNode->isOfType(SoTabDialog::getClassTypeId()));

@@ -48,7 +48,7 @@ void SoDialogGroup::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& 
   SoDialogComponent::buildWidget(parent, useSize, size, mode);
   if (mode == 0 && !parentNode && !defaultAuditor)
     defaultAuditor = new SoDialogGroupAuditor;
-  if (mode != 0 && !existWidget(groupWidget))
+  if (mode != 0 && usesGroupFrame && !existWidget(groupWidget))
     createGroupWidget();
 }
 

@@ -2,17 +2,55 @@
 
 #include <SoDialogIntegerSliderAuditor.h>
 
+#include "Qt/SoDialogQSlider.h"
+#include "SbStringConvert.h"
+#include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoSliderFormat.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
 
 SO_FORMWRIGHT_SOURCE(SoDialogIntegerSlider, SoDialogSlider, "DialogIntegerSlider")
+
+namespace {
+// The whole part of a number as a field value; limits far apart must not
+// overflow the field's range.
+int32_t wholePart(double number)
+{
+  if (std::isnan(number))
+    return 0;
+  return int32_t(std::clamp(std::trunc(number), double(INT32_MIN), double(INT32_MAX)));
+}
+
+// The digits of a limit, a minus sign counting as one; 0 has one digit.
+int digitsOf(int32_t limit)
+{
+  const float magnitude = std::fabs(float(limit));
+  const int whole = magnitude == 0.0f ? 0 : int(std::log10(magnitude));
+  return whole + (limit < 0 ? 1 : 0) + 1;
+}
+}
+
+bool SoDialogIntegerSlider::s_firstBuild = true;
 
 SoDialogIntegerSlider::SoDialogIntegerSlider()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogIntegerSlider);
+  SO_FORMWRIGHT_ADD_FIELD(min, 0);
+  SO_FORMWRIGHT_ADD_FIELD(max, 1);
+  SO_FORMWRIGHT_ADD_FIELD(value, 0);
   SO_FORMWRIGHT_INIT_INSTANCE();
+  format = SoSliderFormat::kIntegerDefault;
 }
 
-SoDialogIntegerSlider::~SoDialogIntegerSlider() = default;
+SoDialogIntegerSlider::~SoDialogIntegerSlider()
+{
+  delete minSensor;
+  delete maxSensor;
+  delete valueSensor;
+}
 
 void SoDialogIntegerSlider::addAuditor(SoDialogIntegerSliderAuditor* auditor)
 {
@@ -22,4 +60,160 @@ void SoDialogIntegerSlider::addAuditor(SoDialogIntegerSliderAuditor* auditor)
 void SoDialogIntegerSlider::removeAuditor(SoDialogIntegerSliderAuditor* auditor)
 {
   SoFormwright::removeAuditor(auditor);
+}
+
+void SoDialogIntegerSlider::applyDlgCptAuditor()
+{
+  applyControlAuditors(this, &SoDialogIntegerSliderAuditor::dialogIntegerSlider);
+}
+
+float SoDialogIntegerSlider::positionOf(int32_t number) const
+{
+  if (max.getValue() == min.getValue())
+    return 0.0f;
+  return float((double(number) - min.getValue()) / (double(max.getValue()) - min.getValue()));
+}
+
+void SoDialogIntegerSlider::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
+{
+  if (fixedLimits.getValue() || s_firstBuild) {
+    // Above the upper limit first, so that with the limits crossed the lower
+    // one wins.
+    if (value.getValue() > max.getValue())
+      setFieldUnwatched(value, valueSensor, max.getValue());
+    if (value.getValue() < min.getValue())
+      setFieldUnwatched(value, valueSensor, min.getValue());
+  } else {
+    if (value.getValue() > max.getValue())
+      setFieldUnwatched(max, maxSensor, value.getValue());
+    if (value.getValue() < min.getValue())
+      setFieldUnwatched(min, minSensor, value.getValue());
+  }
+  if (max.getValue() != min.getValue()) {
+    normalizedValue = positionOf(value.getValue());
+  } else {
+    normalizedValue = 0.0f;
+    setFieldUnwatched(value, valueSensor, max.getValue());
+  }
+  SoDialogSlider::buildWidget(parent, useSize, size, mode);
+  makeFieldSensor(valueSensor, value);
+  makeFieldSensor(minSensor, min);
+  makeFieldSensor(maxSensor, max);
+  if (buildMode)
+    changeSliderValue();
+  if (follows3DForm())
+    change3DSliderValue();
+  s_firstBuild = false;
+}
+
+void SoDialogIntegerSlider::updateFromSensor(SoSensor* sensor)
+{
+  if (sensor == minSensor || sensor == maxSensor) {
+    if (sensor == minSensor && value.getValue() < min.getValue())
+      setFieldUnwatched(value, valueSensor, min.getValue());
+    if (sensor == maxSensor && max.getValue() < value.getValue())
+      setFieldUnwatched(value, valueSensor, max.getValue());
+    normalizedValue = positionOf(value.getValue());
+    updateWidget();
+  } else if (sensor == valueSensor) {
+    // A value from the application is not held between the limits.
+    setValueFromSlider(positionOf(value.getValue()));
+  } else {
+    SoDialogSlider::updateFromSensor(sensor);
+    return;
+  }
+  if (buildMode)
+    changeEditValue();
+  if (follows3DForm())
+    change3DEditValue();
+  if (buildMode)
+    changeSliderValue();
+  if (follows3DForm())
+    change3DSliderValue();
+}
+
+void SoDialogIntegerSlider::setValue()
+{
+  // Half a step added before the truncation rounds to the nearest value.
+  const float range = float(double(max.getValue()) - min.getValue());
+  float position = normalizedValue;
+  if (range != 0.0f)
+    position += 1.0f / (range * 2.0f);
+  else
+    position = 0.0f;
+  position *= range;
+  const int32_t rounded = wholePart(std::trunc(double(position)) + min.getValue());
+  if (rounded == value.getValue())
+    return;
+  // The auditors run with the sensor off: a value they set stays out of the
+  // widgets.
+  const bool attached = valueSensor && valueSensor->getAttachedField() == &value;
+  if (attached)
+    valueSensor->detach();
+  value.setValue(rounded);
+  applyDlgCptAuditor();
+  if (attached)
+    valueSensor->attach(&value);
+}
+
+void SoDialogIntegerSlider::setValueFromEdit(int mode)
+{
+  SbString text;
+  if (mode != 0 && buildMode)
+    text = getValueFromEdit();
+  else if (mode == 0 && isBuilt3D())
+    text = get3DValueFromEdit();
+  else
+    return;
+  int32_t number = SbStringConvert::toInt(text);
+  // A fraction typed into a whole-number zone is corrected as well.
+  bool corrected = SbStringConvert::toFloat(text) - float(number) != 0.0f;
+  bool limitMoved = false;
+  if (!fixedLimits.getValue()) {
+    if (number > max.getValue()) {
+      setFieldUnwatched(max, maxSensor, number);
+      limitMoved = true;
+    }
+    if (number < min.getValue()) {
+      setFieldUnwatched(min, minSensor, number);
+      limitMoved = true;
+    }
+  } else if (number > max.getValue()) {
+    number = max.getValue();
+    corrected = true;
+  } else if (number < min.getValue()) {
+    number = min.getValue();
+    corrected = true;
+  }
+  normalizedValue = positionOf(number);
+  // A moved limit may want a wider value zone.
+  if (limitMoved)
+    updateWidget();
+  if (corrected && buildMode)
+    changeEditValue();
+  if (follows3DForm())
+    change3DEditValue();
+}
+
+void SoDialogIntegerSlider::changeEditValue()
+{
+  if (!sliderWidget)
+    return;
+  const double range = double(max.getValue()) - min.getValue();
+  int32_t shown = min.getValue();
+  if (range != 0.0)
+    shown = wholePart(std::trunc((double(normalizedValue) + 1.0 / (range * 2.0)) * range) + min.getValue());
+  const SbString text =
+    SoSliderFormat::formatInteger(format.getValue(), shown, "SoDialogIntegerSlider::changeEditValue");
+  sliderWidget->setEditText(SoControlWidgets::toWidgetText(text));
+}
+
+int SoDialogIntegerSlider::computeEditZoneWidth()
+{
+  const int digits = std::max(digitsOf(min.getValue()), digitsOf(max.getValue()));
+  // The widest number of that many digits, as far as a field value goes.
+  const int sample = digits < 10 ? int(std::pow(10.0f, float(digits))) - 1 : INT32_MAX;
+  const SbString text =
+    SoSliderFormat::formatInteger(format.getValue(), sample, "SoDialogIntegerSlider::computeEditZoneWidth");
+  return getLabelPixelSize(text, nullptr)[0] + 8;
 }

@@ -2,17 +2,37 @@
 
 #include <SoDialogRealSliderAuditor.h>
 
+#include "Qt/SoDialogQSlider.h"
+#include "SbStringConvert.h"
+#include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoSliderFormat.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
 
 SO_FORMWRIGHT_SOURCE(SoDialogRealSlider, SoDialogSlider, "DialogRealSlider")
+
+bool SoDialogRealSlider::s_firstBuild = true;
 
 SoDialogRealSlider::SoDialogRealSlider()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogRealSlider);
+  SO_FORMWRIGHT_ADD_FIELD(min, 0.0f);
+  SO_FORMWRIGHT_ADD_FIELD(max, 1.0f);
+  SO_FORMWRIGHT_ADD_FIELD(value, 0.0f);
   SO_FORMWRIGHT_INIT_INSTANCE();
+  format = SoSliderFormat::kRealDefault;
+  format.setDefault(TRUE);
 }
 
-SoDialogRealSlider::~SoDialogRealSlider() = default;
+SoDialogRealSlider::~SoDialogRealSlider()
+{
+  delete minSensor;
+  delete maxSensor;
+  delete valueSensor;
+}
 
 void SoDialogRealSlider::addAuditor(SoDialogRealSliderAuditor* auditor)
 {
@@ -22,4 +42,158 @@ void SoDialogRealSlider::addAuditor(SoDialogRealSliderAuditor* auditor)
 void SoDialogRealSlider::removeAuditor(SoDialogRealSliderAuditor* auditor)
 {
   SoFormwright::removeAuditor(auditor);
+}
+
+void SoDialogRealSlider::applyDlgCptAuditor()
+{
+  applyControlAuditors(this, &SoDialogRealSliderAuditor::dialogRealSlider);
+}
+
+float SoDialogRealSlider::positionOf(float number) const
+{
+  if (max.getValue() == min.getValue())
+    return 0.0f;
+  return (number - min.getValue()) / (max.getValue() - min.getValue());
+}
+
+void SoDialogRealSlider::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
+{
+  if (fixedLimits.getValue() || s_firstBuild) {
+    // Above the upper limit first, so that with the limits crossed the lower
+    // one wins.
+    if (value.getValue() > max.getValue())
+      setFieldUnwatched(value, valueSensor, max.getValue());
+    if (value.getValue() < min.getValue())
+      setFieldUnwatched(value, valueSensor, min.getValue());
+  } else {
+    if (value.getValue() > max.getValue())
+      setFieldUnwatched(max, maxSensor, value.getValue());
+    if (value.getValue() < min.getValue())
+      setFieldUnwatched(min, minSensor, value.getValue());
+  }
+  if (max.getValue() != min.getValue()) {
+    normalizedValue = positionOf(value.getValue());
+  } else {
+    normalizedValue = 0.0f;
+    setFieldUnwatched(value, valueSensor, min.getValue());
+  }
+  SoDialogSlider::buildWidget(parent, useSize, size, mode);
+  makeFieldSensor(valueSensor, value);
+  makeFieldSensor(minSensor, min);
+  makeFieldSensor(maxSensor, max);
+  if (buildMode)
+    changeSliderValue();
+  if (follows3DForm())
+    change3DSliderValue();
+  s_firstBuild = false;
+}
+
+void SoDialogRealSlider::updateFromSensor(SoSensor* sensor)
+{
+  if (sensor == minSensor || sensor == maxSensor) {
+    if (sensor == minSensor && value.getValue() < min.getValue())
+      setFieldUnwatched(value, valueSensor, min.getValue());
+    if (sensor == maxSensor && max.getValue() < value.getValue())
+      setFieldUnwatched(value, valueSensor, max.getValue());
+    normalizedValue = positionOf(value.getValue());
+    updateWidget();
+  } else if (sensor == valueSensor) {
+    // A value from the application is not held between the limits.
+    setValueFromSlider(positionOf(value.getValue()));
+  } else {
+    SoDialogSlider::updateFromSensor(sensor);
+    return;
+  }
+  if (buildMode)
+    changeEditValue();
+  if (follows3DForm())
+    change3DEditValue();
+  if (buildMode)
+    changeSliderValue();
+  if (follows3DForm())
+    change3DSliderValue();
+}
+
+// Only a real change tells the auditors.
+void SoDialogRealSlider::setValue()
+{
+  const float number = normalizedValue * (max.getValue() - min.getValue()) + min.getValue();
+  if (number == value.getValue())
+    return;
+  // The auditors run with the sensor off: a value they set stays out of the
+  // widgets.
+  const bool attached = valueSensor && valueSensor->getAttachedField() == &value;
+  if (attached)
+    valueSensor->detach();
+  value.setValue(number);
+  applyDlgCptAuditor();
+  if (attached)
+    valueSensor->attach(&value);
+}
+
+void SoDialogRealSlider::setValueFromEdit(int mode)
+{
+  SbString text;
+  if (mode != 0 && buildMode)
+    text = getValueFromEdit();
+  else if (mode == 0 && isBuilt3D())
+    text = get3DValueFromEdit();
+  else
+    return;
+  float number = SbStringConvert::toFloat(text);
+  bool corrected = false;
+  bool limitMoved = false;
+  if (!fixedLimits.getValue()) {
+    if (number > max.getValue()) {
+      setFieldUnwatched(max, maxSensor, number);
+      limitMoved = true;
+    }
+    if (number < min.getValue()) {
+      setFieldUnwatched(min, minSensor, number);
+      limitMoved = true;
+    }
+  } else if (number > max.getValue()) {
+    number = max.getValue();
+    corrected = true;
+  } else if (number < min.getValue()) {
+    number = min.getValue();
+    corrected = true;
+  }
+  normalizedValue = positionOf(number);
+  // A moved limit may want a wider value zone.
+  if (limitMoved)
+    updateWidget();
+  if (corrected && buildMode)
+    changeEditValue();
+  if (follows3DForm())
+    change3DEditValue();
+}
+
+void SoDialogRealSlider::changeEditValue()
+{
+  if (!sliderWidget)
+    return;
+  const double shown = normalizedValue * (max.getValue() - min.getValue()) + min.getValue();
+  const SbString text = SoSliderFormat::formatReal(format.getValue(), shown, "SoDialogRealSlider::changeEditValue");
+  sliderWidget->setEditText(SoControlWidgets::toWidgetText(text));
+}
+
+namespace {
+// The digits of a limit's whole part; a minus sign counts inside the
+// logarithm, so it adds a digit only from -9 on. 0 has one digit.
+int digitsOf(float limit)
+{
+  const float whole = std::isnan(limit) ? 0.0f : std::clamp(std::trunc(limit), float(INT32_MIN), float(INT32_MAX));
+  const float measured = std::fabs(whole) + (whole < 0.0f ? 1.0f : 0.0f);
+  return (measured == 0.0f ? 0 : int(std::log10(measured))) + 1;
+}
+}
+
+int SoDialogRealSlider::computeEditZoneWidth()
+{
+  const int digits = std::max(digitsOf(min.getValue()), digitsOf(max.getValue()));
+  const float sample = float(std::pow(10.0, double(digits)) - 1.0 + 0.01);
+  const SbString text =
+    SoSliderFormat::formatReal(format.getValue(), sample, "SoDialogRealSlider::computeEditZoneWidth");
+  return getLabelPixelSize(text, nullptr)[0] + 8;
 }

@@ -431,17 +431,25 @@ int SoFormwright::getAuditorListLength() const
   return auditorList ? auditorList->getLength() : 0;
 }
 
+std::vector<SoAuditor*> SoFormwright::getAuditorsNow() const
+{
+  std::vector<SoAuditor*> auditors;
+  for (int i = 0; i < getAuditorListLength(); ++i)
+    auditors.push_back(static_cast<SoAuditor*>((*auditorList)[i]));
+  return auditors;
+}
+
 void SoFormwright::applyContainerAuditors(SoFormwright* control, void (*tests)(SoDialogAuditor*, SoFormwright*),
                                           SoDialogAuditor* fallback)
 {
-  const int count = getAuditorListLength();
-  for (int i = 0; i < count; ++i) {
+  const std::vector<SoAuditor*> auditors = getAuditorsNow();
+  for (SoAuditor* auditor : auditors) {
     // A tab dialog keeps auditors of its own kind in the same list; they
     // hear of page changes only.
-    if (getAuditor(i)->isOfType(SoDialogAuditor::getClassTypeId()))
-      tests(static_cast<SoDialogAuditor*>(getAuditor(i)), control);
+    if (auditor->isOfType(SoDialogAuditor::getClassTypeId()))
+      tests(static_cast<SoDialogAuditor*>(auditor), control);
   }
-  if (count > 0)
+  if (!auditors.empty())
     return;
   if (parentNode)
     parentNode->applyAuditor(control);
@@ -595,15 +603,9 @@ SbVec2i32 SoFormwright::getLabelPixelSize(SbString text, SoFormwright* node)
     return SbVec2i32(0, 0);
   const SbString converted = convertToCString(text, node);
   int lines = getNumLines(converted) + 1;
-  if (node && node->isOfType(SoDialogEditText::getClassTypeId())) {
-    // Only an edit text that says it has one line is measured as one; the
-    // field is looked up by name so that any edit text without it counts
-    // its lines.
-    const SoField* multiLine = node->getField("multiLine");
-    if (multiLine && multiLine->isOfType(SoSFBool::getClassTypeId()) &&
-        !static_cast<const SoSFBool*>(multiLine)->getValue())
-      lines = 1;
-  }
+  if (node && node->isOfType(SoDialogEditText::getClassTypeId()) &&
+      !static_cast<SoDialogEditText*>(node)->multiLine.getValue())
+    lines = 1;
   const QFontMetrics metrics(s_dialogFont);
   const QString whole = SoControlWidgets::toWidgetText(converted);
   if (lines == 1)

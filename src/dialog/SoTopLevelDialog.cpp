@@ -290,11 +290,12 @@ void SoTopLevelDialog::changeMinMaxSize()
 
 void SoTopLevelDialog::applyAuditor(SoFormwright* control)
 {
-  const int count = getAuditorListLength();
-  for (int i = 0; i < std::max(count, 1); ++i) {
-    auto* auditor = count > 0 ? static_cast<SoDialogAuditor*>(getAuditor(i)) : defaultAuditor;
-    SoAuditorDispatch::applyDialogTests(auditor, control);
-    SoAuditorDispatch::applyMenuTests(auditor, control);
+  std::vector<SoAuditor*> auditors = getAuditorsNow();
+  if (auditors.empty())
+    auditors.push_back(defaultAuditor);
+  for (SoAuditor* auditor : auditors) {
+    SoAuditorDispatch::applyDialogTests(static_cast<SoDialogAuditor*>(auditor), control);
+    SoAuditorDispatch::applyMenuTests(static_cast<SoDialogAuditor*>(auditor), control);
   }
 }
 

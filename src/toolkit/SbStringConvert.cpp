@@ -42,13 +42,26 @@ float toFloat(const SbString& text, bool* ok)
   return value;
 }
 
-SbString toString_l(const char* format, double value)
+namespace {
+template <class Number>
+SbString formatInCLocale(const char* format, Number value)
 {
   const locale_t previous = uselocale(cLocale());
   char buffer[128];
   std::snprintf(buffer, sizeof(buffer), format, value);
   uselocale(previous);
   return SbString(buffer);
+}
+}
+
+SbString toString_l(const char* format, double value)
+{
+  return formatInCLocale(format, value);
+}
+
+SbString toString_l(const char* format, int value)
+{
+  return formatInCLocale(format, value);
 }
 
 }

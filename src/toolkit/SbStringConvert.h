@@ -10,6 +10,8 @@ namespace SbStringConvert {
 // tells whether the whole text (surrounding blanks aside) was a number.
 int toInt(const SbString& text, bool* ok = nullptr);
 float toFloat(const SbString& text, bool* ok = nullptr);
-// printf-style formatting of one number.
+// printf-style formatting of one number. The format must hold exactly one
+// conversion of the value's kind.
 SbString toString_l(const char* format, double value);
+SbString toString_l(const char* format, int value);
 }

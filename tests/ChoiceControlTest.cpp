@@ -1,0 +1,410 @@
+#include "ControlTestSupport.h"
+#include "TestSupport.h"
+
+#include <SoDialogAuditor.h>
+#include <SoDialogChoiceAuditor.h>
+#include <SoDialogComboBox.h>
+#include <SoDialogRadioButtons.h>
+#include <SoPreferences.h>
+
+#include <QComboBox>
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPointer>
+#include <QRadioButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+// Hears a choice and, if told to, makes a choice of its own.
+class ChoiceAuditor : public SoDialogChoiceAuditor {
+public:
+  std::vector<int> heard;
+  int overrideWith = -1;
+
+  void dialogChoice(SoDialogChoice* node) override
+  {
+    heard.push_back(node->selectedItem.getValue());
+    if (overrideWith >= 0)
+      node->selectedItem = overrideWith;
+  }
+};
+
+template <class Choice>
+Choice* makeChoice(const char* label, std::initializer_list<const char*> entries)
+{
+  Choice* node = makeNode<Choice>();
+  node->label = label;
+  node->items.setNum(0);
+  int i = 0;
+  for (const char* entry : entries)
+    node->items.set1Value(i++, entry);
+  return node;
+}
+
+std::vector<std::string> itemsOf(const SoDialogChoice* node)
+{
+  std::vector<std::string> texts;
+  for (int i = 0; i < node->items.getNum(); ++i)
+    texts.push_back(node->items[i].getString());
+  return texts;
+}
+
+QComboBox* comboOf(const ControlWindow& window)
+{
+  return window.find<QComboBox>("FWTSoDialogQComboBoxComboBoxWidget");
+}
+
+QList<QRadioButton*> buttonsOf(const ControlWindow& window)
+{
+  return window.widget.findChildren<QRadioButton*>("FWTSoDialogQRadioButtonsRadioButtonWidget");
+}
+
+int checkedIndex(const ControlWindow& window)
+{
+  const QList<QRadioButton*> buttons = buttonsOf(window);
+  for (int i = 0; i < buttons.size(); ++i)
+    if (buttons[i]->isChecked())
+      return i;
+  return -1;
+}
+
+TEST(DialogChoice, placeholderStandsForTheEmptyList)
+{
+  SoDialogComboBox* node = makeNode<SoDialogComboBox>();
+  EXPECT_EQ(itemsOf(node), std::vector<std::string>{""}) << "one empty entry, and no real choice";
+  node->addItem("Red");
+  EXPECT_EQ(itemsOf(node), std::vector<std::string>{"Red"}) << "the first entry takes the placeholder's place";
+  node->addItem("Green");
+  node->insertItem(100, "Blue");
+  node->insertItem(-1, "Black");
+  node->insertItem(2, "Grey");
+  EXPECT_EQ(itemsOf(node), (std::vector<std::string>{"Black", "Red", "Grey", "Green", "Blue"}));
+  node->removeItem(5);
+  node->removeItem(-1);
+  EXPECT_EQ(node->items.getNum(), 5) << "an index that names no entry changes nothing";
+  for (int i = 0; i < 5; ++i)
+    node->removeItem(0);
+  EXPECT_EQ(node->items.getNum(), 0);
+  node->addItem("White");
+  EXPECT_EQ(itemsOf(node), std::vector<std::string>{"White"});
+
+  SoDialogRadioButtons* fresh = makeNode<SoDialogRadioButtons>();
+  fresh->insertItem(7, "Only");
+  EXPECT_EQ(itemsOf(fresh), std::vector<std::string>{"Only"}) << "an insertion replaces the placeholder too";
+  fresh->removeItem(0);
+  fresh->removeItem(0);
+  EXPECT_EQ(fresh->items.getNum(), 0);
+
+  // A list read empty is built with the placeholder in it.
+  ControlWindow window;
+  window.build(fresh);
+  EXPECT_EQ(itemsOf(fresh), std::vector<std::string>{""});
+  EXPECT_TRUE(buttonsOf(window).isEmpty());
+  SoDialogComboBox* empty = makeChoice<SoDialogComboBox>("", {});
+  window.build(empty);
+  EXPECT_EQ(itemsOf(empty), std::vector<std::string>{""});
+  EXPECT_EQ(comboOf(window)->count(), 1);
+}
+
+TEST(DialogChoice, removingTheLastRealEntryOfShownButtonsBringsThePlaceholderBack)
+{
+  ControlWindow window;
+  SoDialogRadioButtons* node = makeChoice<SoDialogRadioButtons>("", {"One", "Two"});
+  window.build(node);
+  ASSERT_EQ(buttonsOf(window).size(), 2);
+  node->removeItem(1);
+  EXPECT_EQ(buttonsOf(window).size(), 1);
+  node->removeItem(0);
+  EXPECT_EQ(itemsOf(node), std::vector<std::string>{""});
+  EXPECT_EQ(buttonsOf(window).size(), 1) << "the placeholder keeps one button";
+  node->removeItem(0);
+  EXPECT_EQ(itemsOf(node), std::vector<std::string>{""}) << "the placeholder is no real entry";
+  node->addItem("Again");
+  EXPECT_EQ(itemsOf(node), std::vector<std::string>{"Again"});
+  ASSERT_EQ(buttonsOf(window).size(), 1);
+  EXPECT_EQ(buttonsOf(window)[0]->text(), QString("Again"));
+}
+
+TEST(DialogComboBox, buildsListAndLabelInItsFrame)
+{
+  ControlWindow window;
+  SoDialogComboBox* node = makeChoice<SoDialogComboBox>("Units:", {"Millimetres", "In\\nches", "P\xc3\xa9t"});
+  node->selectedItem = 1;
+  window.build(node);
+
+  QWidget* frame = node->getWidget();
+  ASSERT_NE(frame, nullptr);
+  EXPECT_EQ(frame->objectName(), QString("FWTSoDialogQComboBoxFrame"));
+  const std::vector<QWidget*> children = ControlWindow::childWidgets(frame);
+  ASSERT_EQ(children.size(), 2u);
+  auto* combo = qobject_cast<QComboBox*>(children[0]);
+  auto* text = qobject_cast<QLabel*>(children[1]);
+  ASSERT_NE(combo, nullptr);
+  ASSERT_NE(text, nullptr);
+  EXPECT_EQ(text->objectName(), QString("FWTSoDialogQComboBoxLabelWidget"));
+  EXPECT_FALSE(combo->isEditable());
+  EXPECT_EQ(combo->font(), SoFormwright::getFormwrightFont());
+  ASSERT_EQ(combo->count(), 3);
+  EXPECT_EQ(combo->itemText(1), QString("In\\nches")) << "entries are shown as typed";
+  EXPECT_EQ(combo->itemText(2), QString::fromUtf8("P\xc3\xa9t"));
+  EXPECT_EQ(combo->currentIndex(), 1);
+  EXPECT_EQ(text->text(), QString("Units:"));
+  EXPECT_EQ(node->getLabelWidget(), nullptr);
+
+  // The widest entry with room for the arrow, beside the label; the height
+  // is the default, and the list sits in its middle at its first entry's
+  // height.
+  const QFontMetrics metrics(SoFormwright::getFormwrightFont());
+  const int widest = std::max({metrics.horizontalAdvance("Millimetres"), metrics.horizontalAdvance("In\\nches"),
+                               metrics.horizontalAdvance(QString::fromUtf8("P\xc3\xa9t"))}) + 3;
+  const SbVec2i32 label = textPixels("Units:");
+  const SbVec2i32 first = textPixels("Millimetres");
+  EXPECT_EQ(node->width.getValue(), widest + 30 + label[0] + 2);
+  EXPECT_EQ(node->height.getValue(), 28);
+  EXPECT_EQ(combo->geometry(), QRect(3 + label[0] + 2, 3 + (28 - 10 - first[1]) / 2,
+                                     node->width.getValue() - 6 - label[0] - 2, first[1] + 4));
+  EXPECT_EQ(text->geometry(), QRect(3, 3 + (28 - 6 - label[1]) / 2, label[0], label[1]));
+
+  resizeFrame(frame, 300, 41);
+  EXPECT_EQ(combo->geometry(), QRect(3 + label[0] + 2, 3 + (41 - 10 - first[1]) / 2, 300 - 6 - label[0] - 2,
+                                     first[1] + 4));
+  node->labelVisibility = FALSE;
+  EXPECT_TRUE(text->isHidden());
+  EXPECT_EQ(combo->geometry().left(), 3);
+  EXPECT_EQ(combo->geometry().width(), 294);
+}
+
+TEST(DialogComboBox, selectionPastTheEndIsPulledBackButANegativeOneIsNot)
+{
+  ControlWindow window;
+  SoDialogComboBox* node = makeChoice<SoDialogComboBox>("", {"a", "b", "c"});
+  node->selectedItem = 9;
+  window.build(node);
+  EXPECT_EQ(node->selectedItem.getValue(), 2);
+  EXPECT_EQ(comboOf(window)->currentIndex(), 2);
+
+  node->selectedItem = 0;
+  EXPECT_EQ(comboOf(window)->currentIndex(), 0);
+  node->selectedItem = 5;
+  EXPECT_EQ(node->selectedItem.getValue(), 2);
+  EXPECT_EQ(comboOf(window)->currentIndex(), 2);
+  node->selectedItem = -3;
+  EXPECT_EQ(node->selectedItem.getValue(), -3);
+  EXPECT_EQ(comboOf(window)->currentIndex(), -1) << "nothing is shown as chosen";
+
+  node->removeItem(2);
+  node->removeItem(1);
+  node->selectedItem = 1;
+  EXPECT_EQ(comboOf(window)->count(), 1);
+  EXPECT_EQ(node->selectedItem.getValue(), 0) << "the list's new length bounds the selection";
+}
+
+TEST(DialogComboBox, userChoiceTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidget)
+{
+  ControlWindow window;
+  SoDialogComboBox* node = makeChoice<SoDialogComboBox>("", {"a", "b", "c"});
+  ChoiceAuditor auditor;
+  auditor.overrideWith = 0;
+  node->addAuditor(&auditor);
+  window.build(node);
+  window.widget.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window.widget));
+  QComboBox* combo = comboOf(window);
+  combo->setFocus();
+
+  QTest::keyClick(combo, Qt::Key_Down);
+  EXPECT_EQ(auditor.heard, std::vector<int>{1}) << "the auditors see the user's choice";
+  EXPECT_EQ(node->selectedItem.getValue(), 0) << "the auditor's own change stands in the field";
+  EXPECT_EQ(combo->currentIndex(), 1) << "and does not reach the widget";
+
+  auditor.overrideWith = -1;
+  node->selectedItem = 2;
+  EXPECT_EQ(combo->currentIndex(), 2) << "the next change does";
+  EXPECT_EQ(auditor.heard.size(), 1u) << "a change from the application is no choice";
+}
+
+TEST(DialogRadioButtons, buildsOneButtonPerChoiceInATitledBox)
+{
+  ControlWindow window;
+  SoDialogRadioButtons* node = makeChoice<SoDialogRadioButtons>("Quality", {"Draft", "Normal", "Best"});
+  node->selectedItem = 1;
+  window.build(node);
+
+  QWidget* frame = node->getWidget();
+  ASSERT_NE(frame, nullptr);
+  EXPECT_EQ(frame->objectName(), QString("FWTSoDialogQRadioButtonsFrame"));
+  EXPECT_EQ(node->getLabelWidget(), frame);
+  auto* box = window.find<QGroupBox>("FWTSoDialogQRadioButtonsButtonGroupWidget");
+  ASSERT_NE(box, nullptr);
+  EXPECT_EQ(box->parentWidget(), frame);
+  EXPECT_EQ(box->title(), QString("Quality"));
+  const QList<QRadioButton*> buttons = buttonsOf(window);
+  ASSERT_EQ(buttons.size(), 3);
+  EXPECT_EQ(buttons[0]->text(), QString("Draft"));
+  EXPECT_EQ(buttons[2]->text(), QString("Best"));
+  EXPECT_EQ(buttons[2]->parentWidget(), box);
+  EXPECT_EQ(checkedIndex(window), 1);
+
+  // 100 wide at least, and 16 pixels a choice plus 28 high at least.
+  const QFontMetrics metrics(SoFormwright::getFormwrightFont());
+  const int widest = std::max({metrics.horizontalAdvance("Draft"), metrics.horizontalAdvance("Normal"),
+                               metrics.horizontalAdvance("Best")}) + 3;
+  const int buttonsHeight = 3 * (metrics.height() + 3) + 30;
+  const int title = textPixels("Quality")[0];
+  EXPECT_EQ(node->width.getValue(), std::max(std::max(title + 24, widest + 48) + 2, 100));
+  EXPECT_EQ(node->height.getValue(), std::max(buttonsHeight, 3 * 16 + 28));
+  EXPECT_EQ(node->minWidth.getValue(), 100);
+  EXPECT_EQ(node->minHeight.getValue(), 76);
+  EXPECT_EQ(box->geometry(), QRect(3, 3, node->width.getValue() - 6, node->height.getValue() - 6));
+  resizeFrame(frame, 150, 120);
+  EXPECT_EQ(box->geometry(), QRect(3, 3, 144, 114));
+
+  node->labelVisibility = FALSE;
+  EXPECT_EQ(box->title(), QString());
+  node->labelVisibility = TRUE;
+  node->labelAlignment = SoFormwright::CENTER;
+  EXPECT_EQ(box->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignHCenter);
+
+  node->items.set1Value(3, "Extra");
+  ASSERT_EQ(buttonsOf(window).size(), 4);
+  EXPECT_EQ(buttonsOf(window)[3]->text(), QString("Extra"));
+  node->items.set1Value(0, "Rough");
+  EXPECT_EQ(buttonsOf(window)[0]->text(), QString("Rough"));
+}
+
+TEST(DialogRadioButtons, selectionOutOfRangeIsMendedAtBothEnds)
+{
+  ControlWindow window;
+  SoDialogRadioButtons* node = makeChoice<SoDialogRadioButtons>("", {"a", "b", "c"});
+  node->selectedItem = 7;
+  window.build(node);
+  EXPECT_EQ(node->selectedItem.getValue(), 2);
+  EXPECT_EQ(checkedIndex(window), 2);
+  node->selectedItem = -2;
+  EXPECT_EQ(node->selectedItem.getValue(), 0);
+  EXPECT_EQ(checkedIndex(window), 0);
+  node->selectedItem = 1;
+  EXPECT_EQ(checkedIndex(window), 1);
+}
+
+TEST(DialogRadioButtons, clickTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidget)
+{
+  ControlWindow window;
+  SoDialogRadioButtons* node = makeChoice<SoDialogRadioButtons>("", {"a", "b", "c"});
+  ChoiceAuditor auditor;
+  auditor.overrideWith = 0;
+  node->addAuditor(&auditor);
+  window.build(node);
+  window.widget.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window.widget));
+
+  QRadioButton* third = buttonsOf(window)[2];
+  QTest::mouseClick(third, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, third->height() / 2));
+  EXPECT_EQ(auditor.heard, std::vector<int>{2});
+  EXPECT_EQ(node->selectedItem.getValue(), 0);
+  EXPECT_EQ(checkedIndex(window), 2);
+}
+
+TEST(DialogRadioButtons, heightOfTheSceneFormIsSpreadAPixelAtATime)
+{
+  class Spread : public SoDialogRadioButtons {
+  public:
+    std::vector<int> heights() const
+    {
+      std::vector<int> result;
+      for (int i = 0; i < numButtonSizes; ++i)
+        result.push_back(buttonSizes[i][1]);
+      return result;
+    }
+  };
+  // Two-line entries are taller than the 16 pixel floor of a button.
+  const int text = 2 * QFontMetrics(SoFormwright::getFormwrightFont()).height() + 3;
+  ControlWindow window;
+  auto* node = makeChoice<Spread>("", {"a\\nb", "c\\nd"});
+  auto build = [&](int requestedHeight) {
+    SbVec2i32 useSize(0, 0), size(0, requestedHeight);
+    node->buildWidget(&window.widget, useSize, size, 1);
+  };
+
+  build(2 * text + 30 + 5);
+  EXPECT_EQ(node->heights(), (std::vector<int>{text + 3, text + 2})) << "button after button";
+  build(2 * text + 30 + 1);
+  EXPECT_EQ(node->heights(), (std::vector<int>{text, text + 1})) << "the turn goes on where it stopped";
+  build(0);
+  EXPECT_EQ(node->heights(), (std::vector<int>{17, 17})) << "no button reaches its minimum of 16";
+
+  node->maxHeight = 30 + 2 * (text + 4);
+  build(1000);
+  EXPECT_EQ(node->heights(), (std::vector<int>{text + 3, text + 3})) << "nor its maximum";
+}
+
+TEST(DialogChoice, destroyWidgetDeletesTheFrameOnceAndABuildMakesItAgain)
+{
+  ControlWindow window;
+  SoDialogRadioButtons* radio = makeChoice<SoDialogRadioButtons>("", {"a", "b"});
+  SoDialogComboBox* combo = makeChoice<SoDialogComboBox>("", {"a", "b"});
+  window.build(radio);
+  window.build(combo);
+  window.build(radio);
+  window.build(combo);
+  EXPECT_EQ(window.widget.findChildren<QFrame*>("FWTSoDialogQRadioButtonsFrame").size(), 1);
+  EXPECT_EQ(window.widget.findChildren<QFrame*>("FWTSoDialogQComboBoxFrame").size(), 1);
+
+  QPointer<QWidget> radioFrame = radio->getWidget();
+  QPointer<QWidget> comboFrame = combo->getWidget();
+  radio->destroyWidget();
+  combo->destroyWidget();
+  EXPECT_TRUE(radioFrame.isNull());
+  EXPECT_TRUE(comboFrame.isNull());
+  EXPECT_EQ(radio->getLabelWidget(), nullptr);
+  radio->selectedItem = 1;
+  combo->items.set1Value(2, "c");
+
+  window.build(radio);
+  window.build(combo);
+  EXPECT_EQ(buttonsOf(window).size(), 2);
+  EXPECT_EQ(checkedIndex(window), 1);
+  EXPECT_EQ(comboOf(window)->count(), 3);
+}
+
+// Switches the report on unheard controls on for one test.
+class ReportOn {
+public:
+  ReportOn() { SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1"); }
+  ~ReportOn() { SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS"); }
+};
+
+TEST(DialogAuditor, reportsAChoiceWithItsIndexAndEntry)
+{
+  class DefaultAuditor : public SoDialogAuditor {
+  } auditor;
+  ReportOn report;
+  DebugMessages messages;
+
+  SoDialogComboBox* combo = makeChoice<SoDialogComboBox>("Units", {"mm", "in"});
+  combo->selectedItem = 1;
+  auditor.dialogComboBox(combo);
+  SoDialogRadioButtons* radio = makeChoice<SoDialogRadioButtons>("Quality", {"Draft", "Best"});
+  radio->selectedItem = 4;
+  auditor.dialogRadioButtons(radio);
+
+  ASSERT_EQ(messages.count(), 2u);
+  EXPECT_EQ(messages.all()[0], "Coin info in SoDialogAuditor::dialogComboBox(): "
+                               "WARNING ! The DialogAuditor does not define the SoDialogComboBox component :"
+                               "\n\t\t -> label \"Units\""
+                               "\n\t\t -> selectedItem 1 : in");
+  EXPECT_EQ(messages.all()[1], "Coin info in SoDialogAuditor::dialogRadioButtons(): "
+                               "WARNING ! The DialogAuditor does not define the SoDialogRadioButtons component :"
+                               "\n\t\t -> label \"Quality\""
+                               "\n\t\t -> selectedItem 4 : ")
+    << "an index that names no entry shows no text";
+}
+
+}
