@@ -42,8 +42,6 @@ SoQtSceneViewer::SoQtSceneViewer(QWidget* parent)
 {
   setFormat(sceneFormat());
   setFocusPolicy(Qt::StrongFocus);
-  // Drags are followed between presses and releases only, as viewers do.
-  setMouseTracking(false);
   m_root->ref();
   m_root->addChild(m_camera);
   // A light from the viewer's side: it shines down the z axis, as the
@@ -56,6 +54,7 @@ SoQtSceneViewer::SoQtSceneViewer(QWidget* parent)
 
 SoQtSceneViewer::~SoQtSceneViewer()
 {
+  releaseContext();
   delete m_sceneSensor;
   delete m_eventAction;
   delete m_renderAction;
@@ -92,9 +91,20 @@ SbViewportRegion SoQtSceneViewer::getViewportRegion() const
 
 void SoQtSceneViewer::initializeGL()
 {
-  // The widget's context is made afresh when it moves to another window:
-  // what the toolkit kept for the old one is of no use.
+  // The widget's context is made afresh when it moves to another window.
+  connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &SoQtSceneViewer::releaseContext,
+          Qt::UniqueConnection);
+}
+
+void SoQtSceneViewer::releaseContext()
+{
+  if (!context())
+    return;
+  // What the toolkit made in the context goes with it, and a new context
+  // starts with nothing kept.
+  makeCurrent();
   SoContextHandler::destructingContext(m_cacheContext);
+  doneCurrent();
   m_cacheContext = SoGLCacheContextElement::getUniqueCacheContext();
 }
 

@@ -61,6 +61,7 @@ protected:
 
 private:
   void render(const SbViewportRegion& viewport, uint32_t cacheContext);
+  void releaseContext();
   static void sceneChangedCB(void* data, SoSensor* sensor);
 
   SoSeparator* m_root;
