@@ -88,7 +88,7 @@ void writePlateSkin(const QTemporaryDir& dir, const char* colour)
 TEST(SkinRestart, aBuildAfterARestartReadsTheSkinsAgainAndShowsThePlate)
 {
   DebugMessages quiet;
-  // Skins set by earlier tests are forgotten too.
+  // From a clean start, whatever skin earlier tests chose.
   restartLibraryAndToolkit();
   // The plate is the child, 100 by 30, with a border of 4 and a title of 23.
   const SbVec3f first = builtPlateSize();
