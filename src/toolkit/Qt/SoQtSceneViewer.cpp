@@ -76,12 +76,6 @@ void SoQtSceneViewer::viewAll()
   m_camera->viewAll(m_root, getViewportRegion());
 }
 
-void SoQtSceneViewer::setBackgroundColor(const SbColor& color)
-{
-  m_background = color;
-  update();
-}
-
 SbViewportRegion SoQtSceneViewer::getViewportRegion() const
 {
   const qreal ratio = devicePixelRatioF();

@@ -36,7 +36,6 @@ public:
   SoCamera* getCamera() const { return m_camera; }
   // Moves the camera so that the whole scene fills the drawing area.
   void viewAll();
-  void setBackgroundColor(const SbColor& color);
   // The drawing area in device pixels, with the origin at its lower left.
   SbViewportRegion getViewportRegion() const;
 
@@ -73,7 +72,8 @@ private:
   // drag keeps them until it lets go.
   SoHandleEventAction* m_eventAction;
   SoQtEventTranslator m_translator;
-  SbColor m_background{0.23f, 0.25f, 0.29f};
+  // A dark grey, against which the light plates of dialogs stand out.
+  const SbColor m_background{0.23f, 0.25f, 0.29f};
   uint32_t m_cacheContext;
   // The scene notifies while it is drawn, when it builds its parts on
   // first sight: that must not ask for another drawing.
