@@ -2,8 +2,9 @@
 // of the user. With no file it opens a built-in dialog that shows every
 // control. Without a display it renders the dialog to a PNG file and exits.
 // A message box of a dialog file is shown, or rendered, on its own.
+// With --3d the dialog is built as geometry and stands in a 3D scene.
 //
-//   formwright-preview [FILE] [--id AUDITOR_ID] [--screenshot PNG] [--list]
+//   formwright-preview [FILE] [--id AUDITOR_ID] [--3d] [--screenshot PNG] [--list]
 
 #include "PreviewAuditor.h"
 #include "PreviewTabAuditor.h"
@@ -15,6 +16,9 @@
 #include <SoMessageDialog.h>
 #include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
+
+#include "SoFormMode.h"
+#include "SoQtSceneViewer.h"
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
@@ -35,6 +39,11 @@
 namespace {
 
 const char* const kDefaultScreenshot = "formwright-preview.png";
+// Room around a dialog in the scene, in scene units on each side, and the
+// pixels given to a scene unit: the dialog's own sizes count a unit for a
+// pixel, and its small type reads better enlarged.
+const int kSceneMargin = 10;
+const int kSceneScale = 2;
 
 bool hasDisplay()
 {
@@ -57,6 +66,23 @@ void quietOffScreenNotices(QtMsgType type, const QMessageLogContext& context, co
                                message.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")))
     return;
   std::fprintf(stderr, "%s\n", qFormatLogMessage(type, context, message).toLocal8Bit().constData());
+}
+
+// Without a skin directory of the user's own, the preview takes the default
+// skin installed beside it, or the one in the source tree it was built from,
+// rather than warn that it falls back on the built-in look.
+void findSkins()
+{
+  if (!qEnvironmentVariableIsEmpty("SCENICHOME") || !qEnvironmentVariableIsEmpty("FORMWRIGHT_SKINS_DIR"))
+    return;
+  const QStringList candidates{QCoreApplication::applicationDirPath() + "/../data/Formwright/skins",
+                               FORMWRIGHT_SOURCE_SKINS};
+  for (const QString& candidate : candidates) {
+    if (QFileInfo(candidate + "/default").isDir()) {
+      SoFormwright::setSkinsDirectories(SbString(QFileInfo(candidate).canonicalFilePath().toLocal8Bit().constData()));
+      return;
+    }
+  }
 }
 
 int fail(const QString& message)
@@ -198,9 +224,35 @@ int run(const QCommandLineParser& options)
   PreviewTabAuditor pages(stdout);
   dialog->addAuditor(&auditor);
   listenToPages(dialog, &pages);
+  // The environment preference may have chosen the scene form already.
+  const bool inScene = options.isSet("3d") || SoFormMode::isSceneForm();
+  if (inScene)
+    SoFormMode::setSceneForm(true);
   dialog->buildDialog(nullptr, 0);
-  dialog->show();
 
+  if (inScene) {
+    auto* scene = new SoSeparator;
+    scene->ref(); // kept for the life of the program
+    scene->addChild(dialog);
+    auto* viewer = new Formwright::SoQtSceneViewer;
+    viewer->setWindowTitle(QString("%1 - formwright-preview").arg(dialog->label.getValue().getString()));
+    viewer->resize(kSceneScale * (dialog->width.getValue() + 2 * kSceneMargin),
+                   kSceneScale * (dialog->height.getValue() + 2 * kSceneMargin));
+    viewer->setSceneGraph(scene);
+    if (screenshot.isEmpty()) {
+      viewer->show();
+      return QApplication::exec();
+    }
+    const QImage image = viewer->renderToImage();
+    if (image.isNull())
+      return fail("no OpenGL context for rendering the scene; without a display, run under xvfb-run");
+    if (!image.save(screenshot, "PNG"))
+      return fail(QString("cannot write %1").arg(screenshot));
+    std::printf("wrote %s\n", screenshot.toLocal8Bit().constData());
+    return 0;
+  }
+
+  dialog->show();
   if (screenshot.isEmpty())
     return QApplication::exec();
 
@@ -227,11 +279,13 @@ int main(int argc, char** argv)
   options.addHelpOption();
   options.addPositionalArgument("file", "Dialog file to open; the built-in dialog if none.", "[FILE]");
   options.addOption({"id", "Open the node with this auditorID.", "AUDITOR_ID"});
+  options.addOption({"3d", "Build the dialog as geometry and show it standing in a 3D scene."});
   options.addOption({"screenshot", "Render the dialog to this PNG file and exit.", "PNG"});
   options.addOption({"list", "Print the tree of auditor identifiers and exit."});
   options.process(application);
 
   SoFormwright::init();
+  findSkins();
   const int status = run(options);
   std::fflush(stdout);
   // The process ends here; the dialog's widgets go with it.

@@ -39,6 +39,8 @@ public:                                                                         
   static void setSkinLoaded(int loaded);                                                           \
   /* Gives the class's shared skin groups the children of the current skin. */                    \
   static void change3DSkin();                                                                      \
+  /* Lets the next 3D build read the skin again. */                                                \
+  static void forgetSkin();                                                                        \
                                                                                                    \
 protected:                                                                                         \
   /* Reads the skin the first time the class builds in 3D. */                                      \

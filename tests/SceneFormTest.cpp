@@ -351,6 +351,8 @@ TEST(SceneForm, aThickerSkinFrameLiftsTheChildrenWithIt)
   dialog->addChild(child);
   buildInScene(dialog);
   EXPECT_FLOAT_EQ(child->get3DParentTranslation()[2], 2.0f + 5.0f);
+  // Later builds in the same process take the default look again.
+  SoFormwright::setSkin(SbString(FORMWRIGHT_EXAMPLES "/../skins/default"));
 }
 
 } // namespace

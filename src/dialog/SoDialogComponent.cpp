@@ -467,7 +467,10 @@ void SoDialogComponent::update3DDialogComponent()
 
 void SoDialogComponent::getBoundingBox(SoGetBoundingBoxAction* action)
 {
-  if (!isBuilt3D()) {
+  // Only a component that no build has placed yet builds itself here, at
+  // its parent's corner: one whose control has no look of its own in the
+  // scene yet is never marked built, and must keep the place its parent gave.
+  if (!isBuilt3D() && !cptTranslation) {
     const SbBool notified = enableNotify(FALSE);
     // A window above that is not built yet must not follow field changes
     // of a form it does not have.

@@ -105,6 +105,11 @@ void SoFormwright::finish()
   SoAuditor::exitClasses();
   for (auto registration = std::rbegin(kClasses); registration != std::rend(kClasses); ++registration)
     registration->exitClass();
+  for (void (*forget)() : soFormwrightSkinForgetters())
+    forget();
+  s_skinsPath = SbString();
+  s_skinLoaded = 0;
+  s_fontPropertiesPending = 1;
   delete s_initMutex;
   s_initMutex = nullptr;
 }
@@ -714,6 +719,12 @@ int SoFormwright::wrap3DTextLine(SoText3* node, int line, float width, SoGroup* 
 }
 
 // Skins.
+
+std::vector<void (*)()>& soFormwrightSkinForgetters()
+{
+  static std::vector<void (*)()> forgetters;
+  return forgetters;
+}
 
 SbString SoFormwright::s_skinsPath;
 int SoFormwright::s_skinLoaded = 0;

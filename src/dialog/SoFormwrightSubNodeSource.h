@@ -15,6 +15,8 @@
 #include <Inventor/fields/SoSFNode.h>
 #include <Inventor/nodekits/SoNodekitCatalog.h>
 
+#include <vector>
+
 // The render mode of a parent that declares one; toolkit classes declare none.
 template <class P>
 auto soFormwrightRenderEngineModeOf(int) -> decltype(&P::getClassRenderEngineMode())
@@ -85,6 +87,12 @@ const SbRenderEngineMode* soFormwrightRenderEngineModeOf(long)
     createDefaultParts();                                                                          \
   } while (0)
 
+// What each skinned class does to forget the skin it has read. The library's
+// last finish calls them all: the toolkit may be ended and started again
+// before the library's next start, taking the skins' DEF names with it, so
+// that start must read every skin afresh.
+std::vector<void (*)()>& soFormwrightSkinForgetters();
+
 // The skin statics of a class, with its built-in text and its DEF names in
 // the order in which a skin change swaps them.
 #define SO_FORMWRIGHT_SKIN_SOURCE(K, skinName, builtInText, ...)                                  \
@@ -93,6 +101,13 @@ const SbRenderEngineMode* soFormwrightRenderEngineModeOf(long)
   int K::s_skinFirstRead = 1;                                                                      \
   int K::isSkinLoaded() { return s_skinLoaded; }                                                   \
   void K::setSkinLoaded(int loaded) { s_skinLoaded = loaded; }                                     \
+  void K::forgetSkin()                                                                             \
+  {                                                                                                \
+    s_skinLoaded = 0;                                                                              \
+    s_skinFirstRead = 1;                                                                           \
+  }                                                                                                \
+  static const bool soFormwrightSkinForgetterOf##K =                                               \
+    (soFormwrightSkinForgetters().push_back(&K::forgetSkin), true);                                \
   void K::change3DSkin()                                                                           \
   {                                                                                                \
     change3DSkinParts(#skinName ".scn", skinName, {__VA_ARGS__});                                  \

@@ -1,0 +1,221 @@
+// The scene viewer's input, worked without a window or an OpenGL context:
+// Qt events are built by hand and handed to the translator, or sent to a
+// viewer that is never shown.
+
+#include "TestSupport.h"
+
+#include "Qt/SoQtEventTranslator.h"
+#include "Qt/SoQtSceneViewer.h"
+
+#include <Inventor/actions/SoHandleEventAction.h>
+#include <Inventor/nodes/SoCamera.h>
+#include <Inventor/nodes/SoCube.h>
+#include <Inventor/nodes/SoEventCallback.h>
+#include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoTranslation.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using Formwright::SoQtEventTranslator;
+using Formwright::SoQtSceneViewer;
+
+namespace {
+
+QMouseEvent mouse(QEvent::Type type, QPointF at, Qt::MouseButton button,
+                  Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+  const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
+  return QMouseEvent(type, at, at, button, held, modifiers);
+}
+
+TEST(SceneViewerInput, positionsCountFromTheLowerLeftInDevicePixels)
+{
+  // 300 pixels high: Qt's top row is the toolkit's row 299.
+  EXPECT_EQ(SoQtEventTranslator::positionOf(QPointF(0, 0), 300, 1.0), SbVec2s(0, 299));
+  EXPECT_EQ(SoQtEventTranslator::positionOf(QPointF(7, 299), 300, 1.0), SbVec2s(7, 0));
+  // At two device pixels a unit, (10.5, 20.25) is pixel (21, 40) from the top
+  // of a 600-pixel area: row 600 - 1 - 40 from the bottom.
+  EXPECT_EQ(SoQtEventTranslator::positionOf(QPointF(10.5, 20.25), 600, 2.0), SbVec2s(21, 559));
+}
+
+TEST(SceneViewerInput, buttonsAndKeysTakeTheToolkitsCodes)
+{
+  EXPECT_EQ(SoQtEventTranslator::buttonOf(Qt::LeftButton), SoMouseButtonEvent::BUTTON1);
+  EXPECT_EQ(SoQtEventTranslator::buttonOf(Qt::MiddleButton), SoMouseButtonEvent::BUTTON2);
+  EXPECT_EQ(SoQtEventTranslator::buttonOf(Qt::RightButton), SoMouseButtonEvent::BUTTON3);
+  EXPECT_EQ(SoQtEventTranslator::buttonOf(Qt::BackButton), SoMouseButtonEvent::ANY);
+
+  struct Case {
+    int qtKey;
+    Qt::KeyboardModifiers modifiers;
+    int key;
+  };
+  const Case cases[] = {
+    {Qt::Key_A, Qt::NoModifier, 0x61},        {Qt::Key_Z, Qt::ShiftModifier, 0x7a},
+    {Qt::Key_0, Qt::NoModifier, 0x30},        {Qt::Key_5, Qt::NoModifier, 0x35},
+    {Qt::Key_5, Qt::KeypadModifier, 0xff9d},  {Qt::Key_Plus, Qt::KeypadModifier, 0xffab},
+    {Qt::Key_Enter, Qt::KeypadModifier, 0xff8d}, {Qt::Key_Return, Qt::NoModifier, 0xff0d},
+    {Qt::Key_F1, Qt::NoModifier, 0xffbe},     {Qt::Key_F12, Qt::NoModifier, 0xffc9},
+    {Qt::Key_Left, Qt::NoModifier, 0xff51},   {Qt::Key_Down, Qt::NoModifier, 0xff54},
+    {Qt::Key_PageDown, Qt::NoModifier, 0xff56}, {Qt::Key_End, Qt::NoModifier, 0xff57},
+    {Qt::Key_Backspace, Qt::NoModifier, 0xff08}, {Qt::Key_Backtab, Qt::ShiftModifier, 0xff09},
+    {Qt::Key_Escape, Qt::NoModifier, 0xff1b}, {Qt::Key_Delete, Qt::NoModifier, 0xffff},
+    {Qt::Key_Shift, Qt::ShiftModifier, 0xffe1}, {Qt::Key_Control, Qt::ControlModifier, 0xffe3},
+    {Qt::Key_Space, Qt::NoModifier, 0x20},    {Qt::Key_QuoteLeft, Qt::NoModifier, 0x60},
+    // No code of its own: a shifted character, and a key off the table.
+    {Qt::Key_Exclam, Qt::ShiftModifier, SoKeyboardEvent::UNDEFINED},
+    {Qt::Key_VolumeUp, Qt::NoModifier, SoKeyboardEvent::UNDEFINED},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(SoQtEventTranslator::keyOf(c.qtKey, c.modifiers), c.key) << "Qt key 0x" << std::hex << c.qtKey;
+}
+
+TEST(SceneViewerInput, aDragAndTypingBecomeToolkitEventsWithStateAndModifiers)
+{
+  SoQtEventTranslator translator;
+  QMouseEvent press = mouse(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::ShiftModifier);
+  const SoEvent* event = translator.translate(&press, 100, 1.0);
+  ASSERT_NE(event, nullptr);
+  ASSERT_TRUE(event->isOfType(SoMouseButtonEvent::getClassTypeId()));
+  EXPECT_TRUE(SoMouseButtonEvent::isButtonPressEvent(event, SoMouseButtonEvent::BUTTON1));
+  EXPECT_EQ(event->getPosition(), SbVec2s(5, 94));
+  EXPECT_TRUE(event->wasShiftDown());
+  EXPECT_FALSE(event->wasCtrlDown());
+
+  QMouseEvent move = mouse(QEvent::MouseMove, QPointF(30, 40), Qt::NoButton, Qt::ControlModifier);
+  event = translator.translate(&move, 100, 1.0);
+  ASSERT_NE(event, nullptr);
+  ASSERT_TRUE(event->isOfType(SoLocation2Event::getClassTypeId()));
+  EXPECT_EQ(event->getPosition(), SbVec2s(30, 59));
+  EXPECT_TRUE(event->wasCtrlDown());
+  EXPECT_FALSE(event->wasShiftDown());
+
+  QMouseEvent release = mouse(QEvent::MouseButtonRelease, QPointF(30, 40), Qt::LeftButton);
+  event = translator.translate(&release, 100, 1.0);
+  ASSERT_NE(event, nullptr);
+  EXPECT_TRUE(SoMouseButtonEvent::isButtonReleaseEvent(event, SoMouseButtonEvent::BUTTON1));
+
+  // The second press of a double click is a press like the first.
+  QMouseEvent twice = mouse(QEvent::MouseButtonDblClick, QPointF(30, 40), Qt::RightButton);
+  EXPECT_TRUE(SoMouseButtonEvent::isButtonPressEvent(translator.translate(&twice, 100, 1.0),
+                                                     SoMouseButtonEvent::BUTTON3));
+  QMouseEvent back = mouse(QEvent::MouseButtonPress, QPointF(30, 40), Qt::BackButton);
+  EXPECT_EQ(translator.translate(&back, 100, 1.0), nullptr);
+
+  // A key is typed where the pointer was last.
+  QKeyEvent capital(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier, "A");
+  event = translator.translate(&capital, 100, 1.0);
+  ASSERT_NE(event, nullptr);
+  ASSERT_TRUE(event->isOfType(SoKeyboardEvent::getClassTypeId()));
+  const auto* key = static_cast<const SoKeyboardEvent*>(event);
+  EXPECT_TRUE(SoKeyboardEvent::isKeyPressEvent(event, SoKeyboardEvent::A));
+  EXPECT_EQ(key->getPrintableCharacter(), 'A');
+  EXPECT_EQ(key->getPosition(), SbVec2s(30, 59));
+  EXPECT_TRUE(key->wasShiftDown());
+
+  QKeyEvent accented(QEvent::KeyRelease, Qt::Key_Eacute, Qt::NoModifier, QString(QChar(0xe9)));
+  key = static_cast<const SoKeyboardEvent*>(translator.translate(&accented, 100, 1.0));
+  EXPECT_TRUE(SoKeyboardEvent::isKeyReleaseEvent(key, SoKeyboardEvent::UNDEFINED));
+  EXPECT_EQ(key->getPrintableCharacter(), '\xe9');
+  // Outside Latin-1 the toolkit's one character has nothing to hold.
+  QKeyEvent euro(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(QChar(0x20ac)));
+  key = static_cast<const SoKeyboardEvent*>(translator.translate(&euro, 100, 1.0));
+  EXPECT_EQ(key->getPrintableCharacter(), '\0');
+  QKeyEvent arrow(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
+  key = static_cast<const SoKeyboardEvent*>(translator.translate(&arrow, 100, 1.0));
+  EXPECT_TRUE(SoKeyboardEvent::isKeyPressEvent(key, SoKeyboardEvent::UP_ARROW));
+  EXPECT_EQ(key->getPrintableCharacter(), '\0');
+}
+
+// Records the events that reach it, and takes every later one at a press, as
+// a dragger does.
+struct Recorder {
+  SoEventCallback* node = new SoEventCallback;
+  std::vector<SoType> types;
+  std::vector<SbVec2s> positions;
+
+  Recorder()
+  {
+    node->addEventCallback(SoEvent::getClassTypeId(), &Recorder::record, this);
+  }
+  static void record(void* data, SoEventCallback* node)
+  {
+    auto* self = static_cast<Recorder*>(data);
+    const SoEvent* event = node->getEvent();
+    self->types.push_back(event->getTypeId());
+    self->positions.push_back(event->getPosition());
+    if (SoMouseButtonEvent::isButtonPressEvent(event, SoMouseButtonEvent::BUTTON1)) {
+      node->getAction()->setGrabber(node);
+      node->setHandled();
+    }
+    if (SoMouseButtonEvent::isButtonReleaseEvent(event, SoMouseButtonEvent::BUTTON1))
+      node->getAction()->releaseGrabber();
+  }
+};
+
+TEST(SceneViewer, aDragReachesTheNodeThatGrabbedItEvenWhenTheSceneNoLongerLeadsToIt)
+{
+  SoQtSceneViewer viewer;
+  viewer.resize(200, 100);
+  Recorder recorder;
+  auto* hiding = new SoSwitch;
+  hiding->whichChild = SO_SWITCH_ALL;
+  hiding->addChild(recorder.node);
+  hiding->addChild(new SoCube);
+  viewer.setSceneGraph(hiding);
+
+  QMouseEvent press = mouse(QEvent::MouseButtonPress, QPointF(20, 10), Qt::LeftButton);
+  QApplication::sendEvent(&viewer, &press);
+  EXPECT_TRUE(press.isAccepted());
+  // From here on only the grab leads the events to the recorder.
+  hiding->whichChild = SO_SWITCH_NONE;
+  // Moves come to a viewer that does not track the pointer while a button
+  // is held.
+  QMouseEvent move(QEvent::MouseMove, QPointF(60, 30), QPointF(60, 30), Qt::NoButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(&viewer, &move);
+  QMouseEvent release = mouse(QEvent::MouseButtonRelease, QPointF(60, 30), Qt::LeftButton);
+  QApplication::sendEvent(&viewer, &release);
+  QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+  QApplication::sendEvent(&viewer, &key);
+
+  ASSERT_EQ(recorder.types.size(), 3u);
+  EXPECT_EQ(recorder.types[0], SoMouseButtonEvent::getClassTypeId());
+  EXPECT_EQ(recorder.types[1], SoLocation2Event::getClassTypeId());
+  EXPECT_EQ(recorder.types[2], SoMouseButtonEvent::getClassTypeId());
+  EXPECT_EQ(recorder.positions[0], SbVec2s(20, 89));
+  EXPECT_EQ(recorder.positions[1], SbVec2s(60, 69));
+  // Nothing in the scene took the key: it goes on to the widget's parents.
+  EXPECT_FALSE(key.isAccepted());
+}
+
+TEST(SceneViewer, viewAllCentresTheCameraOnTheScene)
+{
+  SoQtSceneViewer viewer;
+  viewer.resize(300, 300);
+  auto* scene = new SoSeparator;
+  auto* offset = new SoTranslation;
+  offset->translation.setValue(100.0f, -40.0f, 0.0f);
+  scene->addChild(offset);
+  scene->addChild(new SoCube);
+  viewer.setSceneGraph(scene);
+  EXPECT_EQ(viewer.getSceneGraph(), scene);
+
+  // The camera keeps looking down the z axis, from in front of the cube.
+  const SbVec3f position = viewer.getCamera()->position.getValue();
+  EXPECT_NEAR(position[0], 100.0f, 0.001f);
+  EXPECT_NEAR(position[1], -40.0f, 0.001f);
+  EXPECT_GT(position[2], 1.0f);
+
+  offset->translation.setValue(-10.0f, 5.0f, 0.0f);
+  viewer.viewAll();
+  EXPECT_NEAR(viewer.getCamera()->position.getValue()[0], -10.0f, 0.001f);
+  EXPECT_NEAR(viewer.getCamera()->position.getValue()[1], 5.0f, 0.001f);
+}
+
+}
