@@ -35,6 +35,7 @@
 namespace {
 
 const char* const kDefaultScreenshot = "formwright-preview.png";
+const int kLargestScreenshot = 4096;
 
 bool hasDisplay()
 {
@@ -199,13 +200,20 @@ int run(const QCommandLineParser& options)
   dialog->addAuditor(&auditor);
   listenToPages(dialog, &pages);
   dialog->buildDialog(nullptr, 0);
-  dialog->show();
+  QWidget* window = dialog->getBaseWidget();
+  const QSize largest(kLargestScreenshot, kLargestScreenshot);
+  // Off screen, a shown window is painted whole into memory: one that a file
+  // made larger than any screen is rendered without being shown, and only
+  // its top left corner, as the whole would fit in no image.
+  if (screenshot.isEmpty() || window->size().boundedTo(largest) == window->size())
+    dialog->show();
 
   if (screenshot.isEmpty())
     return QApplication::exec();
 
   QApplication::processEvents();
-  if (!dialog->getBaseWidget()->grab().save(screenshot, "PNG"))
+  const QRect shown(QPoint(0, 0), window->size().boundedTo(largest));
+  if (!window->grab(shown).save(screenshot, "PNG"))
     return fail(QString("cannot write %1").arg(screenshot));
   std::printf("wrote %s\n", screenshot.toLocal8Bit().constData());
   return 0;
