@@ -44,6 +44,7 @@ const char* const kDefaultScreenshot = "formwright-preview.png";
 // pixel, and its small type reads better enlarged.
 const int kSceneMargin = 10;
 const int kSceneScale = 2;
+const int kLargestScreenshot = 4096;
 
 bool hasDisplay()
 {
@@ -236,8 +237,9 @@ int run(const QCommandLineParser& options)
     scene->addChild(dialog);
     auto* viewer = new Formwright::SoQtSceneViewer;
     viewer->setWindowTitle(QString("%1 - formwright-preview").arg(dialog->label.getValue().getString()));
-    viewer->resize(kSceneScale * (dialog->width.getValue() + 2 * kSceneMargin),
-                   kSceneScale * (dialog->height.getValue() + 2 * kSceneMargin));
+    const QSize sceneSize(kSceneScale * (dialog->width.getValue() + 2 * kSceneMargin),
+                          kSceneScale * (dialog->height.getValue() + 2 * kSceneMargin));
+    viewer->resize(sceneSize.boundedTo(QSize(kLargestScreenshot, kLargestScreenshot)));
     viewer->setSceneGraph(scene);
     if (screenshot.isEmpty()) {
       viewer->show();
@@ -252,12 +254,20 @@ int run(const QCommandLineParser& options)
     return 0;
   }
 
-  dialog->show();
+  QWidget* window = dialog->getBaseWidget();
+  const QSize largest(kLargestScreenshot, kLargestScreenshot);
+  // Off screen, a shown window is painted whole into memory: one that a file
+  // made larger than any screen is rendered without being shown, and only
+  // its top left corner, as the whole would fit in no image.
+  if (screenshot.isEmpty() || window->size().boundedTo(largest) == window->size())
+    dialog->show();
+
   if (screenshot.isEmpty())
     return QApplication::exec();
 
   QApplication::processEvents();
-  if (!dialog->getBaseWidget()->grab().save(screenshot, "PNG"))
+  const QRect shown(QPoint(0, 0), window->size().boundedTo(largest));
+  if (!window->grab(shown).save(screenshot, "PNG"))
     return fail(QString("cannot write %1").arg(screenshot));
   std::printf("wrote %s\n", screenshot.toLocal8Bit().constData());
   return 0;

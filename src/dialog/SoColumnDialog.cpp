@@ -1,6 +1,7 @@
 #include <SoColumnDialog.h>
 
 #include "SoFormwrightSubNodeSource.h"
+#include "SoSizeRules.h"
 
 #include <QBoxLayout>
 
@@ -25,7 +26,7 @@ void SoColumnDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32&
 {
   buildStacked(
     parent, useSize, size, mode, [](QWidget* frame) -> QBoxLayout* { return new QHBoxLayout(frame); },
-    "FWTSoColumnDialogLayout", columnSpacing.getValue());
+    "FWTSoColumnDialogLayout", SoSizeRules::usable(columnSpacing));
 }
 
 void SoColumnDialog::updateFromSensor(SoSensor* sensor)
@@ -39,17 +40,17 @@ void SoColumnDialog::updateFromSensor(SoSensor* sensor)
 void SoColumnDialog::changeColumnSpacing()
 {
   if (componentLayout)
-    componentLayout->setSpacing(columnSpacing.getValue());
+    componentLayout->setSpacing(SoSizeRules::usable(columnSpacing));
 }
 
 SbVec2i32 SoColumnDialog::getComponentInitSize()
 {
-  return stackedComponentInitSize(0, columnSpacing.getValue());
+  return stackedComponentInitSize(0, SoSizeRules::usable(columnSpacing));
 }
 
 void SoColumnDialog::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
 {
-  stackedDefaultSize(0, columnSpacing.getValue(), size, min, max);
+  stackedDefaultSize(0, SoSizeRules::usable(columnSpacing), size, min, max);
 }
 
 void SoColumnDialog::computeNewChildrenWidth(SbVec2i32& newSize)
@@ -94,5 +95,5 @@ void SoColumnDialog::setChildrenComponentSize()
 
 void SoColumnDialog::update3DChildren()
 {
-  update3DStackedChildren(0, columnSpacing.getValue());
+  update3DStackedChildren(0, SoSizeRules::usable(columnSpacing));
 }

@@ -78,17 +78,15 @@ void SoDialogComponent::getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
 
 bool SoDialogComponent::needsDefaultSize() const
 {
-  return SoSizeRules::hasZero(SbVec2i32(width.getValue(), height.getValue()),
-                              SbVec2i32(minWidth.getValue(), minHeight.getValue()),
-                              SbVec2i32(maxWidth.getValue(), maxHeight.getValue()));
+  SbVec2i32 size, min, max;
+  SoSizeRules::usableSizes(width, height, minWidth, minHeight, maxWidth, maxHeight, size, min, max);
+  return SoSizeRules::hasZero(size, min, max);
 }
 
 void SoDialogComponent::getSizeFromFields(const SbVec2i32 defaults[3], SbVec2i32& size, SbVec2i32& min,
                                           SbVec2i32& max) const
 {
-  size.setValue(width.getValue(), height.getValue());
-  min.setValue(minWidth.getValue(), minHeight.getValue());
-  max.setValue(maxWidth.getValue(), maxHeight.getValue());
+  SoSizeRules::usableSizes(width, height, minWidth, minHeight, maxWidth, maxHeight, size, min, max);
   if (needsDefaultSize())
     SoSizeRules::takeDefaults(size, min, max, defaults[0], defaults[1], defaults[2]);
   SoSizeRules::clamp(size, min, max);

@@ -179,7 +179,7 @@ SbVec2i32 SoDialogGroup::stackedComponentInitSize(int axis, int32_t spacing)
   if (componentInitSize[0] != -1)
     return componentInitSize;
   const int across = 1 - axis;
-  SbVec2i32 result(2 * margin.getValue(), 2 * margin.getValue());
+  SbVec2i32 result(2 * SoSizeRules::usable(margin), 2 * SoSizeRules::usable(margin));
   for (int i = 0; i < numChildren; ++i) {
     // A separator lies across the direction in which the children stack.
     if (getComponent(i)->isOfType(SoDialogSeparator::getClassTypeId()))
@@ -207,7 +207,7 @@ void SoDialogGroup::stackedDefaultSize(int axis, int32_t spacing, SbVec2i32& siz
     sizeTable.set(i, s, m, x);
     stacked.add(s, m, x);
   }
-  stacked.result(2 * margin.getValue(), (numChildren - 1) * spacing, size, min, max);
+  stacked.result(2 * SoSizeRules::usable(margin), (numChildren - 1) * spacing, size, min, max);
 }
 
 void SoDialogGroup::buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode,
@@ -309,12 +309,12 @@ void SoDialogGroup::update3DStackedChildren(int axis, int32_t spacing)
   const bool edgeless = edgeStyle.getValue() == NONE;
   if (edgeless)
     size[across] += 6;
-  const int32_t inset = margin.getValue() + (edgeless ? 0 : 3);
+  const int32_t inset = SoSizeRules::usable(margin) + (edgeless ? 0 : 3);
   SbVec2i32 place(inset, inset);
   SbVec3f origin(0.0f, 0.0f, 0.0f);
   apply3DTranslation(get3DPart("mainCptSeparator"), cptDepth, origin);
   SbVec2i32 childSize(0, 0);
-  childSize[across] = size[across] - 2 * margin.getValue();
+  childSize[across] = size[across] - 2 * SoSizeRules::usable(margin);
   for (int i = 0; i < numChildren; ++i) {
     SoDialogComponent* child = getComponent(i);
     child->set3DParentTranslation(origin);

@@ -1,6 +1,7 @@
 #include <SoRowDialog.h>
 
 #include "SoFormwrightSubNodeSource.h"
+#include "SoSizeRules.h"
 
 #include <QBoxLayout>
 
@@ -25,7 +26,7 @@ void SoRowDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& si
 {
   buildStacked(
     parent, useSize, size, mode, [](QWidget* frame) -> QBoxLayout* { return new QVBoxLayout(frame); },
-    "FWT_SoColumnDialog_Layout", rowSpacing.getValue());
+    "FWT_SoColumnDialog_Layout", SoSizeRules::usable(rowSpacing));
 }
 
 void SoRowDialog::updateFromSensor(SoSensor* sensor)
@@ -39,17 +40,17 @@ void SoRowDialog::updateFromSensor(SoSensor* sensor)
 void SoRowDialog::changeRowSpacing()
 {
   if (componentLayout)
-    componentLayout->setSpacing(rowSpacing.getValue());
+    componentLayout->setSpacing(SoSizeRules::usable(rowSpacing));
 }
 
 SbVec2i32 SoRowDialog::getComponentInitSize()
 {
-  return stackedComponentInitSize(1, rowSpacing.getValue());
+  return stackedComponentInitSize(1, SoSizeRules::usable(rowSpacing));
 }
 
 void SoRowDialog::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
 {
-  stackedDefaultSize(1, rowSpacing.getValue(), size, min, max);
+  stackedDefaultSize(1, SoSizeRules::usable(rowSpacing), size, min, max);
 }
 
 void SoRowDialog::computeNewChildrenHeight(SbVec2i32& newSize)
@@ -98,5 +99,5 @@ void SoRowDialog::setChildrenComponentSize()
 
 void SoRowDialog::update3DChildren()
 {
-  update3DStackedChildren(1, rowSpacing.getValue());
+  update3DStackedChildren(1, SoSizeRules::usable(rowSpacing));
 }

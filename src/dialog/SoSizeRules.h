@@ -22,6 +22,28 @@ inline int toQtSize(int32_t value)
   return std::clamp(value, 0, kQtMaximum);
 }
 
+// A size, margin or spacing field as the negotiation and the widgets take
+// it: within 0 and `largest`. Files may hold anything; a value outside is
+// posted once for its node, and a margin or spacing field keeps what was
+// read (sizes are written back by the negotiation).
+int32_t usable(const SoSFInt32& field, int32_t largest = kUnlimited);
+
+// The six size fields, read in this order, within what Qt accepts.
+inline void usableSizes(const SoSFInt32& width, const SoSFInt32& height, const SoSFInt32& minWidth,
+                        const SoSFInt32& minHeight, const SoSFInt32& maxWidth, const SoSFInt32& maxHeight,
+                        SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
+{
+  const int32_t w = usable(width, kQtMaximum);
+  const int32_t h = usable(height, kQtMaximum);
+  const int32_t minW = usable(minWidth, kQtMaximum);
+  const int32_t minH = usable(minHeight, kQtMaximum);
+  const int32_t maxW = usable(maxWidth, kQtMaximum);
+  const int32_t maxH = usable(maxHeight, kQtMaximum);
+  size.setValue(w, h);
+  min.setValue(minW, minH);
+  max.setValue(maxW, maxH);
+}
+
 // `value + add`, or unlimited where the sum would pass it.
 inline int32_t saturatingAdd(int32_t value, int32_t add)
 {
@@ -97,8 +119,9 @@ public:
     m_size[m_across] = std::max(m_size[m_across], size[m_across]);
     m_min[m_across] = std::max(m_min[m_across], min[m_across]);
     m_max[m_across] = std::max(m_max[m_across], max[m_across]);
-    m_size[m_along] += size[m_along];
-    m_min[m_along] += min[m_along];
+    // Sizes come within Qt's range, and so do their sums.
+    m_size[m_along] = std::min(m_size[m_along] + size[m_along], kQtMaximum);
+    m_min[m_along] = std::min(m_min[m_along] + min[m_along], kQtMaximum);
     if (max[m_along] == kUnlimited)
       m_max[m_along] = kUnlimited;
     if (m_max[m_along] <= kUnlimited - max[m_along])

@@ -10,6 +10,9 @@
 #include <Inventor/errors/SoDebugError.h>
 
 #include <cstring>
+#include <set>
+#include <string>
+#include <utility>
 
 namespace SoSliderFormat {
 
@@ -51,6 +54,11 @@ inline const char* usable(const SbString& format, const char* conversions, const
 {
   if (isSingleConversion(format.getString(), conversions, lengths))
     return format.getString();
+  // A slider formats its value for several purposes: one line for each
+  // field's bad format is enough. `format` is the field's own string.
+  static std::set<std::pair<const SbString*, std::string>> reported;
+  if (!reported.insert({&format, format.getString()}).second)
+    return fallback;
   SoDebugError::post(source, "The format \"%s\" is not a single numeric conversion of the value; \"%s\" is used",
                      format.getString(), fallback);
   return fallback;

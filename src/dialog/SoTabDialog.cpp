@@ -362,7 +362,7 @@ SbVec2i32 SoTabDialog::getComponentInitSize()
 {
   if (componentInitSize[0] != -1)
     return componentInitSize;
-  SbVec2i32 result(2 * margin.getValue(), 2 * margin.getValue());
+  SbVec2i32 result(2 * SoSizeRules::usable(margin), 2 * SoSizeRules::usable(margin));
   for (int i = 0; i < numChildren; ++i) {
     const SbVec2i32 child = getComponent(i)->getComponentInitSize();
     result[0] = std::max(result[0], child[0]);
@@ -396,7 +396,7 @@ void SoTabDialog::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max
       max[axis] = std::max(max[axis], childMax[axis]);
     }
   }
-  const int32_t margins = 2 * margin.getValue();
+  const int32_t margins = 2 * SoSizeRules::usable(margin);
   for (int axis = 0; axis < 2; ++axis) {
     size[axis] += margins;
     min[axis] += margins;

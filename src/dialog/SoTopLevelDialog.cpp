@@ -272,7 +272,7 @@ void SoTopLevelDialog::changeHeight()
 void SoTopLevelDialog::changeRowSpacing()
 {
   if (existWidget(baseWidget) && baseWidget->layout())
-    baseWidget->layout()->setSpacing(rowSpacing.getValue());
+    baseWidget->layout()->setSpacing(SoSizeRules::usable(rowSpacing));
 }
 
 void SoTopLevelDialog::changeMinMaxSize()
@@ -370,9 +370,7 @@ void SoTopLevelDialog::getDefaultState(SbVec2i32& size, SbVec2i32& min, SbVec2i3
 
 void SoTopLevelDialog::getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
 {
-  size.setValue(width.getValue(), height.getValue());
-  min.setValue(minWidth.getValue(), minHeight.getValue());
-  max.setValue(maxWidth.getValue(), maxHeight.getValue());
+  SoSizeRules::usableSizes(width, height, minWidth, minHeight, maxWidth, maxHeight, size, min, max);
   if (SoSizeRules::hasZero(size, min, max)) {
     SbVec2i32 d, dmin, dmax;
     getDefaultSize(d, dmin, dmax);
@@ -404,7 +402,8 @@ void SoTopLevelDialog::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32
     stacked.add(s, m, x);
   }
   const int32_t stackedChildren = numChildren - (widgetHasMenuBar() ? 1 : 0);
-  stacked.result(2 * margin.getValue(), (stackedChildren - 1) * rowSpacing.getValue(), size, min, max);
+  const int32_t border = 2 * SoSizeRules::usable(margin);
+  stacked.result(border, (stackedChildren - 1) * SoSizeRules::usable(rowSpacing), size, min, max);
 }
 
 void SoTopLevelDialog::setChildrenLabelSize()
@@ -622,8 +621,8 @@ void SoTopLevelDialog::update3DChildren()
   fixSizeWithBorder(size, -1);
   computeNewChildrenHeight(size);
   SbVec3f origin = childrenOrigin();
-  SbVec2i32 place(margin.getValue(), margin.getValue());
-  SbVec2i32 childSize(size[0] - 2 * margin.getValue(), 0);
+  SbVec2i32 place(SoSizeRules::usable(margin), SoSizeRules::usable(margin));
+  SbVec2i32 childSize(size[0] - 2 * SoSizeRules::usable(margin), 0);
   for (int i = 0; i < numChildren; ++i) {
     auto* child = static_cast<SoTopComponent*>((*children)[i]);
     child->set3DParentTranslation(origin);
@@ -636,7 +635,7 @@ void SoTopLevelDialog::update3DChildren()
     childSize[1] = sizeTable.childSizes[i][1];
     child->buildWidget(nullptr, childSize, place, 0);
     if (child->isOfType(SoDialogComponent::getClassTypeId()))
-      place[1] += static_cast<SoDialogComponent*>(child)->height.getValue() + rowSpacing.getValue();
+      place[1] += static_cast<SoDialogComponent*>(child)->height.getValue() + SoSizeRules::usable(rowSpacing);
   }
 }
 
