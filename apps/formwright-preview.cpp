@@ -17,7 +17,7 @@
 #include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
 
-#include "SoFormMode.h"
+#include <SoFormMode.h>
 #include "SoQtSceneViewer.h"
 
 #include <Inventor/SoDB.h>

@@ -10,7 +10,7 @@
 #include <SoMessageDialog.h>
 #include <SoTopLevelDialog.h>
 
-#include "SoFormMode.h"
+#include <SoFormMode.h>
 #include "SoFormwrightClassList.h"
 
 #include <Inventor/SbViewportRegion.h>

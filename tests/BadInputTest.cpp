@@ -11,7 +11,7 @@
 #include <SoFormwright.h>
 #include <SoTopLevelDialog.h>
 
-#include "SoFormMode.h"
+#include <SoFormMode.h>
 
 #include <Inventor/errors/SoReadError.h>
 

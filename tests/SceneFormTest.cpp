@@ -9,7 +9,7 @@
 #include <SoRowDialog.h>
 #include <SoTopLevelDialog.h>
 
-#include "SoFormMode.h"
+#include <SoFormMode.h>
 
 #include <Inventor/SbViewportRegion.h>
 #include <Inventor/SoOutput.h>
@@ -92,10 +92,10 @@ struct Scene {
     const SoPickedPoint* point = pick.getPickedPoint();
     if (!point)
       return nullptr;
-    auto* path = static_cast<SoFullPath*>(point->getPath());
-    for (int i = path->getLength() - 1; i >= 0; --i)
-      if (path->getNode(i)->isOfType(SoFormwright::getClassTypeId()))
-        return static_cast<SoFormwright*>(path->getNode(i));
+    const std::vector<SoNode*> path = fullPathNodes(point->getPath());
+    for (auto node = path.rbegin(); node != path.rend(); ++node)
+      if ((*node)->isOfType(SoFormwright::getClassTypeId()))
+        return static_cast<SoFormwright*>(*node);
     return nullptr;
   }
 };
@@ -318,7 +318,7 @@ TEST(SceneForm, aDisabledGroupGreysAndDeadensItsChildrenUntilItComesBack)
     SoBaseKit::setSearchingChildren(TRUE);
     search.apply(node);
     SoBaseKit::setSearchingChildren(FALSE);
-    auto* material = static_cast<SoMaterial*>(static_cast<SoFullPath*>(search.getPath())->getTail());
+    auto* material = static_cast<SoMaterial*>(fullPathNodes(search.getPath()).back());
     return material->emissiveColor[0];
   };
 

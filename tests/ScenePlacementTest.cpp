@@ -9,7 +9,7 @@
 #include <SoRowDialog.h>
 #include <SoTopLevelDialog.h>
 
-#include "SoFormMode.h"
+#include <SoFormMode.h>
 
 #include <Inventor/SbViewportRegion.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>

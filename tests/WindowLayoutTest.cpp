@@ -7,7 +7,7 @@
 #include <SoRowDialog.h>
 #include <SoTopLevelDialog.h>
 
-#include "SoFormMode.h"
+#include <SoFormMode.h>
 
 #include <gtest/gtest.h>
 

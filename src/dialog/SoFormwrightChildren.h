@@ -15,7 +15,7 @@
 #include <SoMenuBar.h>
 
 #include "SoDBImpl.h"
-#include "SoFormMode.h"
+#include <SoFormMode.h>
 
 #include <Inventor/SoInput.h>
 #include <Inventor/SoOutput.h>

@@ -7,7 +7,7 @@
 
 #include "SoAuditorDispatch.h"
 #include "SoControlWidgets.h"
-#include "SoFormMode.h"
+#include <SoFormMode.h>
 #include "SoFormwrightChildren.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoQt.h"
