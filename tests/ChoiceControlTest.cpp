@@ -374,37 +374,4 @@ TEST(DialogChoice, destroyWidgetDeletesTheFrameOnceAndABuildMakesItAgain)
   EXPECT_EQ(comboOf(window)->count(), 3);
 }
 
-// Switches the report on unheard controls on for one test.
-class ReportOn {
-public:
-  ReportOn() { SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1"); }
-  ~ReportOn() { SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS"); }
-};
-
-TEST(DialogAuditor, reportsAChoiceWithItsIndexAndEntry)
-{
-  class DefaultAuditor : public SoDialogAuditor {
-  } auditor;
-  ReportOn report;
-  DebugMessages messages;
-
-  SoDialogComboBox* combo = makeChoice<SoDialogComboBox>("Units", {"mm", "in"});
-  combo->selectedItem = 1;
-  auditor.dialogComboBox(combo);
-  SoDialogRadioButtons* radio = makeChoice<SoDialogRadioButtons>("Quality", {"Draft", "Best"});
-  radio->selectedItem = 4;
-  auditor.dialogRadioButtons(radio);
-
-  ASSERT_EQ(messages.count(), 2u);
-  EXPECT_EQ(messages.all()[0], "Coin info in SoDialogAuditor::dialogComboBox(): "
-                               "WARNING ! The DialogAuditor does not define the SoDialogComboBox component :"
-                               "\n\t\t -> label \"Units\""
-                               "\n\t\t -> selectedItem 1 : in");
-  EXPECT_EQ(messages.all()[1], "Coin info in SoDialogAuditor::dialogRadioButtons(): "
-                               "WARNING ! The DialogAuditor does not define the SoDialogRadioButtons component :"
-                               "\n\t\t -> label \"Quality\""
-                               "\n\t\t -> selectedItem 4 : ")
-    << "an index that names no entry shows no text";
-}
-
 }

@@ -239,19 +239,4 @@ TEST(DialogEditText, destroyWidgetDeletesTheFrameOnce)
   EXPECT_EQ(linesOf(window)->toPlainText(), QString("b"));
 }
 
-TEST(DialogAuditor, reportsAnEditTextWithItsText)
-{
-  class DefaultAuditor : public SoDialogAuditor {
-  } auditor;
-  SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
-  DebugMessages messages;
-  auditor.dialogEditText(makeEditText("Name:", "Ada"));
-  SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
-  ASSERT_EQ(messages.count(), 1u);
-  EXPECT_EQ(messages.all()[0], "Coin info in SoDialogAuditor::dialogEditText(): "
-                               "WARNING ! The DialogAuditor does not define the SoDialogEditText component :"
-                               "\n\t\t -> label \"Name:\""
-                               "\n\t\t -> editText \"Ada\"");
-}
-
 }

@@ -292,32 +292,4 @@ TEST(DialogSlider, disabledBarShowsItsColoursAtHalfStrength)
   EXPECT_GT(qBlue(shaded[2]), qRed(shaded[2])) << "blue last";
 }
 
-TEST(DialogAuditor, reportsSlidersWithTheirValues)
-{
-  class DefaultAuditor : public SoDialogAuditor {
-  } auditor;
-  SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
-  DebugMessages messages;
-  SoDialogIntegerSlider* copies = makeNode<SoDialogIntegerSlider>();
-  copies->label = "Copies";
-  copies->max = 10;
-  copies->value = 7;
-  auditor.dialogIntegerSlider(copies);
-  SoDialogRealSlider* scale = makeNode<SoDialogRealSlider>();
-  scale->label = "Scale";
-  scale->value = 0.25f;
-  scale->format = "%.2f";
-  auditor.dialogRealSlider(scale);
-  SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
-
-  ASSERT_EQ(messages.count(), 2u);
-  EXPECT_EQ(messages.all()[0], "Coin info in SoDialogAuditor::dialogIntegerSlider(): "
-                               "WARNING ! The DialogAuditor does not define the SoDialogIntegerSlider component :"
-                               "\n\t\t -> label \"Copies\"7");
-  EXPECT_EQ(messages.all()[1], "Coin info in SoDialogAuditor::dialogRealSlider(): "
-                               "WARNING ! The DialogAuditor does not define the SoDialogRealSlider component :"
-                               "\n\t\t -> label \"Scale\""
-                               "\n\t\t -> value \"0.25\"");
-}
-
 }
