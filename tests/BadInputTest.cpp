@@ -13,8 +13,6 @@
 
 #include <SoFormMode.h>
 
-#include <Inventor/errors/SoReadError.h>
-
 #include <QFile>
 #include <QPixmap>
 #include <QTemporaryDir>
@@ -27,54 +25,6 @@
 namespace {
 
 const char* const kHeader = "#Inventor V2.1 ascii\n\n";
-
-// The reader's messages go through SoReadError, the library's through
-// SoDebugError: both are collected here, in order.
-class AllMessages {
-public:
-  AllMessages()
-    : m_debug(SoDebugError::getHandlerCallback()), m_debugData(SoDebugError::getHandlerData()),
-      m_read(SoReadError::getHandlerCallback()), m_readData(SoReadError::getHandlerData())
-  {
-    SoDebugError::setHandlerCallback(&AllMessages::collect, this);
-    SoReadError::setHandlerCallback(&AllMessages::collect, this);
-  }
-  ~AllMessages()
-  {
-    SoDebugError::setHandlerCallback(m_debug, m_debugData);
-    SoReadError::setHandlerCallback(m_read, m_readData);
-  }
-  AllMessages(const AllMessages&) = delete;
-  AllMessages& operator=(const AllMessages&) = delete;
-
-  const std::vector<std::string>& all() const { return m_messages; }
-  int countHolding(const std::string& text) const
-  {
-    int count = 0;
-    for (const std::string& message : m_messages)
-      count += message.find(text) != std::string::npos ? 1 : 0;
-    return count;
-  }
-  std::string joined() const
-  {
-    std::string text;
-    for (const std::string& message : m_messages)
-      text += message + "\n---\n";
-    return text;
-  }
-
-private:
-  static void collect(const SoError* error, void* data)
-  {
-    static_cast<AllMessages*>(data)->m_messages.push_back(error->getDebugString().getString());
-  }
-
-  SoErrorCB* m_debug;
-  void* m_debugData;
-  SoErrorCB* m_read;
-  void* m_readData;
-  std::vector<std::string> m_messages;
-};
 
 enum class Outcome { Refused, Opens };
 
@@ -254,7 +204,7 @@ TEST_F(BadInputs, eachIsRefusedOrOpensAndTheLibraryCarriesOn)
     const std::string path =
       writeFile("bad" + std::to_string(index) + ".scn", (row.withHeader ? kHeader : "") + row.body);
     {
-      AllMessages messages;
+      DebugMessages messages(true);
       SoFormwright* node = load(path);
       if (row.outcome == Outcome::Refused) {
         EXPECT_EQ(node, nullptr);
@@ -289,7 +239,7 @@ TEST_F(BadInputs, mendedSpacingKeepsTheFileValueAndSizesComeOutDrawable)
   auto* dialog = static_cast<SoTopLevelDialog*>(load(path));
   ASSERT_NE(dialog, nullptr);
   {
-    AllMessages messages;
+    DebugMessages messages(true);
     dialog->buildDialog(nullptr, 0);
     dialog->buildDialog(nullptr, 0);
     // One message for each node, however often it is built.

@@ -92,6 +92,29 @@ protected:
   void change3DEdgeStyle() override { ++changes3D; }
 };
 
+// A component whose natural size is given outright, so that it survives the
+// forgetting of sizes that a rebuild does; its label is hidden.
+class SizedLeaf : public SoDialogComponent {
+public:
+  SbVec2i32 natural{100, 30};
+
+protected:
+  void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override
+  {
+    size = natural;
+    min = natural;
+    max.setValue(32767, 32767);
+  }
+};
+
+inline SizedLeaf* makeFixedLeaf(int width = 100, int height = 30)
+{
+  auto* leaf = makeNode<SizedLeaf>();
+  leaf->natural.setValue(width, height);
+  leaf->labelVisibility = FALSE;
+  return leaf;
+}
+
 // The pixel size of a text as the library measures a one-line label.
 inline SbVec2i32 textPixels(const char* text)
 {

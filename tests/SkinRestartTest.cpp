@@ -1,6 +1,7 @@
 // Skins across an end and a new start of the library, with the toolkit ended
 // and started between, as an application that restarts both does.
 
+#include "ControlTestSupport.h"
 #include "TestSupport.h"
 
 #include <SoDialogComponent.h>
@@ -22,17 +23,6 @@
 
 namespace {
 
-// A component with a natural size of its own, for hand-worked plate sizes.
-class FixedLeaf : public SoDialogComponent {
-protected:
-  void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override
-  {
-    size.setValue(100, 30);
-    min = size;
-    max.setValue(32767, 32767);
-  }
-};
-
 void restartLibraryAndToolkit()
 {
   SoFormwright::finish();
@@ -44,9 +34,9 @@ void restartLibraryAndToolkit()
 SbVec3f builtPlateSize()
 {
   auto* dialog = makeNode<SoTopLevelDialog>();
-  auto* leaf = new FixedLeaf;
-  leaf->labelVisibility = FALSE;
+  SizedLeaf* leaf = makeFixedLeaf();
   dialog->addChild(leaf);
+  leaf->unref();
   SoFormMode::setSceneForm(true);
   dialog->buildDialog(nullptr, 0);
   SoFormMode::setSceneForm(false);

@@ -81,7 +81,6 @@ TEST(DialogSlider, buildsTheRowOfLabelToggleBarAndValue)
 {
   SliderWindow window;
   SoDialogIntegerSlider* node = makeSlider<SoDialogIntegerSlider>("Copies", 0, 10, 4);
-  EXPECT_EQ(node->format.getValue(), SbString("%d"));
   window.build(node);
 
   QWidget* frame = node->getWidget();
@@ -172,8 +171,6 @@ TEST(DialogRealSlider, continuousTriggerDecidesWhenTheFieldFollowsADrag)
 {
   SliderWindow window;
   SoDialogRealSlider* node = makeSlider<SoDialogRealSlider>("", 0.0f, 1.0f, 0.0f);
-  EXPECT_EQ(node->format.getValue(), SbString("%.3f"));
-  EXPECT_TRUE(node->format.isDefault());
   RealAuditor auditor;
   node->addAuditor(&auditor);
   window.build(node);
@@ -238,9 +235,7 @@ TEST(DialogSlider, badLimitsAndFormatsGiveWayWithoutHarm)
   window.build(crossed);
   EXPECT_EQ(crossed->value.getValue(), 8) << "with crossed limits the lower one wins";
   EXPECT_EQ(window.zone()->text(), QString("8")) << "a format of two conversions gives way to %d";
-  // The zone's width and its text both use the format: one message.
-  ASSERT_EQ(messages.count(), 1u);
-  EXPECT_NE(messages.all()[0].find("The format \"%d of %d\" is not a single numeric conversion"), std::string::npos);
+  EXPECT_EQ(messages.count(), 1u) << "the zone's width and its text both use the format: one message";
   crossed->destroyWidget();
 
   for (const char* format : {"value", "%s", "%n", "%*d", "%ld", "100%"}) {
@@ -290,34 +285,6 @@ TEST(DialogSlider, disabledBarShowsItsColoursAtHalfStrength)
   EXPECT_GT(qRed(shaded[0]), qBlue(shaded[0])) << "red first";
   EXPECT_GT(qGreen(shaded[1]), 0);
   EXPECT_GT(qBlue(shaded[2]), qRed(shaded[2])) << "blue last";
-}
-
-TEST(DialogAuditor, reportsSlidersWithTheirValues)
-{
-  class DefaultAuditor : public SoDialogAuditor {
-  } auditor;
-  SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
-  DebugMessages messages;
-  SoDialogIntegerSlider* copies = makeNode<SoDialogIntegerSlider>();
-  copies->label = "Copies";
-  copies->max = 10;
-  copies->value = 7;
-  auditor.dialogIntegerSlider(copies);
-  SoDialogRealSlider* scale = makeNode<SoDialogRealSlider>();
-  scale->label = "Scale";
-  scale->value = 0.25f;
-  scale->format = "%.2f";
-  auditor.dialogRealSlider(scale);
-  SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
-
-  ASSERT_EQ(messages.count(), 2u);
-  EXPECT_EQ(messages.all()[0], "Coin info in SoDialogAuditor::dialogIntegerSlider(): "
-                               "WARNING ! The DialogAuditor does not define the SoDialogIntegerSlider component :"
-                               "\n\t\t -> label \"Copies\"7");
-  EXPECT_EQ(messages.all()[1], "Coin info in SoDialogAuditor::dialogRealSlider(): "
-                               "WARNING ! The DialogAuditor does not define the SoDialogRealSlider component :"
-                               "\n\t\t -> label \"Scale\""
-                               "\n\t\t -> value \"0.25\"");
 }
 
 }

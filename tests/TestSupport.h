@@ -4,6 +4,7 @@
 #include <Inventor/SoFullPath.h>
 #include <Inventor/SoInput.h>
 #include <Inventor/errors/SoDebugError.h>
+#include <Inventor/errors/SoReadError.h>
 #include <Inventor/nodes/SoSeparator.h>
 
 #include <cstring>
@@ -12,28 +13,46 @@
 #include <vector>
 
 // Collects the messages posted through SoDebugError while it lives, instead
-// of printing them.
+// of printing them; with `alsoReadErrors`, the file reader's messages too, in
+// the order they came.
 class DebugMessages {
 public:
-  DebugMessages()
-    : m_previous(SoDebugError::getHandlerCallback()), m_previousData(SoDebugError::getHandlerData())
+  explicit DebugMessages(bool alsoReadErrors = false)
+    : m_previous(SoDebugError::getHandlerCallback()), m_previousData(SoDebugError::getHandlerData()),
+      m_read(alsoReadErrors), m_previousRead(SoReadError::getHandlerCallback()),
+      m_previousReadData(SoReadError::getHandlerData())
   {
     SoDebugError::setHandlerCallback(&DebugMessages::collect, this);
+    if (m_read)
+      SoReadError::setHandlerCallback(&DebugMessages::collect, this);
   }
-  ~DebugMessages() { SoDebugError::setHandlerCallback(m_previous, m_previousData); }
+  ~DebugMessages()
+  {
+    SoDebugError::setHandlerCallback(m_previous, m_previousData);
+    if (m_read)
+      SoReadError::setHandlerCallback(m_previousRead, m_previousReadData);
+  }
   DebugMessages(const DebugMessages&) = delete;
   DebugMessages& operator=(const DebugMessages&) = delete;
 
   const std::vector<std::string>& all() const { return m_messages; }
   const std::vector<SoDebugError::Severity>& severities() const { return m_severities; }
   size_t count() const { return m_messages.size(); }
-  // True when one message holds `text`.
-  bool contains(const std::string& text) const
+  // How many messages hold `text`.
+  int countHolding(const std::string& text) const
   {
+    int count = 0;
     for (const std::string& message : m_messages)
-      if (message.find(text) != std::string::npos)
-        return true;
-    return false;
+      count += message.find(text) != std::string::npos ? 1 : 0;
+    return count;
+  }
+  bool contains(const std::string& text) const { return countHolding(text) > 0; }
+  std::string joined() const
+  {
+    std::string text;
+    for (const std::string& message : m_messages)
+      text += message + "\n---\n";
+    return text;
   }
 
 private:
@@ -41,11 +60,16 @@ private:
   {
     auto* self = static_cast<DebugMessages*>(data);
     self->m_messages.push_back(error->getDebugString().getString());
-    self->m_severities.push_back(static_cast<const SoDebugError*>(error)->getSeverity());
+    self->m_severities.push_back(error->isOfType(SoDebugError::getClassTypeId())
+                                   ? static_cast<const SoDebugError*>(error)->getSeverity()
+                                   : SoDebugError::ERROR);
   }
 
   SoErrorCB* m_previous;
   void* m_previousData;
+  bool m_read;
+  SoErrorCB* m_previousRead;
+  void* m_previousReadData;
   std::vector<std::string> m_messages;
   std::vector<SoDebugError::Severity> m_severities;
 };
