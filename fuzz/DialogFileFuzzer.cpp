@@ -34,17 +34,28 @@ namespace {
 void dropError(const SoError*, void*) {}
 void dropQtMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 
+// Set while the reader runs: it may drop a half-read node and still use it
+// while it unwinds, which only a node that stays in memory survives.
+bool s_reading = false;
+
 // An interface node that drops the last reference stays in memory, on
 // purpose: an application may still hold its widgets. Over millions of runs
 // that would fill the fuzzer's memory and hide real leaks, so the nodes that
-// the reader makes here are freed as any other node of the toolkit.
+// the reader makes here are freed as any other node of the toolkit, once the
+// reading is over.
 template <class Node>
 class FreedNode : public Node {
 public:
   static void* create() { return new FreedNode; }
 
 protected:
-  void destroy() override { SoBase::destroy(); }
+  void destroy() override
+  {
+    if (s_reading)
+      Node::destroy();
+    else
+      SoBase::destroy();
+  }
 };
 
 #define FORMWRIGHT_FREE_ON_LAST_UNREF(K) SoType::overrideType(K::getClassTypeId(), &FreedNode<K>::create);
@@ -110,7 +121,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
   SoInput input;
   input.setBuffer(data, size);
+  s_reading = true;
   SoSeparator* root = SoDB::readAll(&input);
+  s_reading = false;
   if (!root)
     return 0;
   root->ref();
