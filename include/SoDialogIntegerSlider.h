@@ -5,6 +5,8 @@
 #include <Inventor/fields/SoSFInt32.h>
 
 class SoDialogIntegerSliderAuditor;
+template <class Slider>
+class SoSliderLimits;
 
 // A slider over whole numbers. The bar's position is rounded to the nearest
 // whole value.
@@ -40,6 +42,8 @@ protected:
   SoFieldSensor* valueSensor = nullptr;
 
 private:
+  friend class SoSliderLimits<SoDialogIntegerSlider>;
+
   // The position of `value` between the limits; 0 when they are equal.
   float positionOf(int32_t number) const;
   // Set until the end of the first build of any integer slider.

@@ -5,6 +5,8 @@
 #include <Inventor/fields/SoSFFloat.h>
 
 class SoDialogRealSliderAuditor;
+template <class Slider>
+class SoSliderLimits;
 
 // A slider over real numbers.
 class SoDialogRealSlider : public SoDialogSlider {
@@ -39,6 +41,8 @@ protected:
   SoFieldSensor* valueSensor = nullptr;
 
 private:
+  friend class SoSliderLimits<SoDialogRealSlider>;
+
   // The position of `number` between the limits; 0 when they are equal.
   float positionOf(float number) const;
   // Set until the end of the first build of any real slider.

@@ -7,6 +7,7 @@
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoSliderFormat.h"
+#include "SoSliderLimits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -76,60 +77,16 @@ float SoDialogIntegerSlider::positionOf(int32_t number) const
 
 void SoDialogIntegerSlider::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
-  if (fixedLimits.getValue() || s_firstBuild) {
-    // Above the upper limit first, so that with the limits crossed the lower
-    // one wins.
-    if (value.getValue() > max.getValue())
-      setFieldUnwatched(value, valueSensor, max.getValue());
-    if (value.getValue() < min.getValue())
-      setFieldUnwatched(value, valueSensor, min.getValue());
-  } else {
-    if (value.getValue() > max.getValue())
-      setFieldUnwatched(max, maxSensor, value.getValue());
-    if (value.getValue() < min.getValue())
-      setFieldUnwatched(min, minSensor, value.getValue());
-  }
-  if (max.getValue() != min.getValue()) {
-    normalizedValue = positionOf(value.getValue());
-  } else {
-    normalizedValue = 0.0f;
-    setFieldUnwatched(value, valueSensor, max.getValue());
-  }
+  SoSliderLimits<SoDialogIntegerSlider>::holdValue(*this, fixedLimits.getValue() || s_firstBuild);
   SoDialogSlider::buildWidget(parent, useSize, size, mode);
-  makeFieldSensor(valueSensor, value);
-  makeFieldSensor(minSensor, min);
-  makeFieldSensor(maxSensor, max);
-  if (buildMode)
-    changeSliderValue();
-  if (follows3DForm())
-    change3DSliderValue();
+  SoSliderLimits<SoDialogIntegerSlider>::watchAndShow(*this);
   s_firstBuild = false;
 }
 
 void SoDialogIntegerSlider::updateFromSensor(SoSensor* sensor)
 {
-  if (sensor == minSensor || sensor == maxSensor) {
-    if (sensor == minSensor && value.getValue() < min.getValue())
-      setFieldUnwatched(value, valueSensor, min.getValue());
-    if (sensor == maxSensor && max.getValue() < value.getValue())
-      setFieldUnwatched(value, valueSensor, max.getValue());
-    normalizedValue = positionOf(value.getValue());
-    updateWidget();
-  } else if (sensor == valueSensor) {
-    // A value from the application is not held between the limits.
-    setValueFromSlider(positionOf(value.getValue()));
-  } else {
+  if (!SoSliderLimits<SoDialogIntegerSlider>::followChange(*this, sensor))
     SoDialogSlider::updateFromSensor(sensor);
-    return;
-  }
-  if (buildMode)
-    changeEditValue();
-  if (follows3DForm())
-    change3DEditValue();
-  if (buildMode)
-    changeSliderValue();
-  if (follows3DForm())
-    change3DSliderValue();
 }
 
 void SoDialogIntegerSlider::setValue()

@@ -1,0 +1,81 @@
+#pragma once
+
+// What the integer and the real slider share about their value and limits:
+// the value held between the limits at a build, and the changes of the
+// three fields that follow it. `Slider` has `min`, `max` and `value` fields
+// of one number type, their sensors, and `positionOf`, and befriends this
+// template.
+
+#include <SoDialogSlider.h>
+
+template <class Slider>
+class SoSliderLimits {
+public:
+  // Before the build. Held limits keep the value between them, the upper one
+  // first, so that with crossed limits the lower one wins; free limits move
+  // out to the value instead. Equal limits put the bar at its start and the
+  // value on them.
+  static void holdValue(Slider& slider, bool holdLimits)
+  {
+    if (holdLimits) {
+      if (slider.value.getValue() > slider.max.getValue())
+        slider.setFieldUnwatched(slider.value, slider.valueSensor, slider.max.getValue());
+      if (slider.value.getValue() < slider.min.getValue())
+        slider.setFieldUnwatched(slider.value, slider.valueSensor, slider.min.getValue());
+    } else {
+      if (slider.value.getValue() > slider.max.getValue())
+        slider.setFieldUnwatched(slider.max, slider.maxSensor, slider.value.getValue());
+      if (slider.value.getValue() < slider.min.getValue())
+        slider.setFieldUnwatched(slider.min, slider.minSensor, slider.value.getValue());
+    }
+    if (slider.max.getValue() != slider.min.getValue()) {
+      slider.normalizedValue = slider.positionOf(slider.value.getValue());
+    } else {
+      slider.normalizedValue = 0.0f;
+      slider.setFieldUnwatched(slider.value, slider.valueSensor, slider.min.getValue());
+    }
+  }
+
+  // After the build: the sensors stand, and the bar shows the value.
+  static void watchAndShow(Slider& slider)
+  {
+    slider.makeFieldSensor(slider.valueSensor, slider.value);
+    slider.makeFieldSensor(slider.minSensor, slider.min);
+    slider.makeFieldSensor(slider.maxSensor, slider.max);
+    showOnBar(slider);
+  }
+
+  // A change of a limit or of the value from the application; false for
+  // any other sensor.
+  static bool followChange(Slider& slider, SoSensor* sensor)
+  {
+    if (sensor == slider.minSensor || sensor == slider.maxSensor) {
+      if (sensor == slider.minSensor && slider.value.getValue() < slider.min.getValue())
+        slider.setFieldUnwatched(slider.value, slider.valueSensor, slider.min.getValue());
+      if (sensor == slider.maxSensor && slider.max.getValue() < slider.value.getValue())
+        slider.setFieldUnwatched(slider.value, slider.valueSensor, slider.max.getValue());
+      slider.normalizedValue = slider.positionOf(slider.value.getValue());
+      slider.updateWidget();
+    } else if (sensor == slider.valueSensor) {
+      // A value from the application is not held between the limits.
+      slider.setValueFromSlider(slider.positionOf(slider.value.getValue()));
+    } else {
+      return false;
+    }
+    if (slider.buildMode)
+      slider.changeEditValue();
+    if (slider.follows3DForm())
+      slider.change3DEditValue();
+    showOnBar(slider);
+    return true;
+  }
+
+private:
+  static void showOnBar(Slider& slider)
+  {
+    if (slider.buildMode)
+      slider.changeSliderValue();
+    if (slider.follows3DForm())
+      slider.change3DSliderValue();
+  }
+};
