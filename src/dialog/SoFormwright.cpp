@@ -44,10 +44,12 @@
 #include <Inventor/sensors/SoFieldSensor.h>
 
 #include <QFontMetrics>
+#include <QHash>
 #include <QWidget>
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -592,6 +594,49 @@ int SoFormwright::getNumLines(const SbString& text)
   return lineFeeds;
 }
 
+namespace {
+// Shaping a text is the dear part of measuring it, and one build measures
+// each label several times over: the widths are kept per text while the
+// font stays the same. The table is emptied when it grows large.
+class TextWidths {
+public:
+  const QFontMetrics& metrics(const QFont& font)
+  {
+    if (!m_metrics || font != m_font) {
+      m_font = font;
+      m_metrics.emplace(font);
+      m_widths.clear();
+    }
+    return *m_metrics;
+  }
+
+  int width(const QFont& font, const QString& text)
+  {
+    const QFontMetrics& fontMetrics = metrics(font);
+    const auto found = m_widths.constFind(text);
+    if (found != m_widths.constEnd())
+      return *found;
+    if (m_widths.size() >= kMaxEntries)
+      m_widths.clear();
+    const int measured = fontMetrics.horizontalAdvance(text);
+    m_widths.insert(text, measured);
+    return measured;
+  }
+
+private:
+  static constexpr qsizetype kMaxEntries = 16384;
+  QFont m_font;
+  std::optional<QFontMetrics> m_metrics;
+  QHash<QString, int> m_widths;
+};
+
+TextWidths& textWidths()
+{
+  static TextWidths widths;
+  return widths;
+}
+}
+
 SbVec2i32 SoFormwright::getLabelPixelSize(SbString text, SoFormwright* node)
 {
   if (text.getLength() == 0)
@@ -601,15 +646,16 @@ SbVec2i32 SoFormwright::getLabelPixelSize(SbString text, SoFormwright* node)
   if (node && node->isOfType(SoDialogEditText::getClassTypeId()) &&
       !static_cast<SoDialogEditText*>(node)->multiLine.getValue())
     lines = 1;
-  const QFontMetrics metrics(s_dialogFont);
+  TextWidths& widths = textWidths();
+  const int height = widths.metrics(s_dialogFont).height();
   const QString whole = SoControlWidgets::toWidgetText(converted);
   if (lines == 1)
-    return SbVec2i32(metrics.horizontalAdvance(whole) + 3, metrics.height() + 3);
+    return SbVec2i32(widths.width(s_dialogFont, whole) + 3, height + 3);
   int maxWidth = 0;
   int maxHeight = 0;
   for (const QString& piece : whole.split(QLatin1Char('\n'))) {
-    maxWidth = std::max(maxWidth, metrics.horizontalAdvance(piece));
-    maxHeight = std::max(maxHeight, metrics.height());
+    maxWidth = std::max(maxWidth, widths.width(s_dialogFont, piece));
+    maxHeight = std::max(maxHeight, height);
   }
   return SbVec2i32(maxWidth + 3, maxHeight * lines + 3);
 }
