@@ -8,11 +8,11 @@
 #include "BenchmarkDialog.h"
 #include "HandBuiltDialog.h"
 
+#include <SoColumnDialog.h>
 #include <SoDialogEditText.h>
 #include <SoDialogLabel.h>
 #include <SoFormwright.h>
 #include <SoRowDialog.h>
-#include <SoColumnDialog.h>
 #include <SoTopLevelDialog.h>
 
 #include <Inventor/SoDB.h>
@@ -29,8 +29,8 @@
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
 #include <cstdio>
+#include <ctime>
 #include <fstream>
 #include <malloc.h>
 #include <map>
