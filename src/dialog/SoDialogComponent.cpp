@@ -255,6 +255,14 @@ int SoDialogComponent::indexAmongBuiltSiblings(QBoxLayout* parentLayout) const
   const int own = siblings ? siblings->find(const_cast<SoDialogComponent*>(this)) : -1;
   if (own < 0)
     return -1;
+  // The layouts stand in the order of their nodes: when the sibling just
+  // before stands last, as all through a first build, none after it is
+  // placed, and a walk over them would make a build quadratic.
+  if (own > 0 && parentLayout->count() > 0 && (*siblings)[own - 1]->isOfType(SoDialogComponent::getClassTypeId())) {
+    const QLayoutItem* previous = static_cast<SoDialogComponent*>((*siblings)[own - 1])->placedLayout;
+    if (previous && parentLayout->itemAt(parentLayout->count() - 1) == previous)
+      return -1;
+  }
   for (int i = own + 1; i < siblings->getLength(); ++i) {
     SoNode* sibling = (*siblings)[i];
     if (!sibling->isOfType(SoDialogComponent::getClassTypeId()))

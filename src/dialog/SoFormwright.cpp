@@ -48,8 +48,10 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <cstring>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 SO_FORMWRIGHT_SOURCE(SoFormwright, SoDragger, "Formwright")
@@ -599,26 +601,94 @@ int SoFormwright::getNumLines(const SbString& text)
   return lineFeeds;
 }
 
+namespace {
+// Shaping a text is the dear part of measuring it, and one build measures
+// each label several times over: the sizes are kept per text and per way
+// of reading it while the font stays the same. The table is emptied when it
+// grows large.
+class LabelSizes {
+public:
+  // How a node reads its text: the result depends on nothing else.
+  enum Reading : char { Plain, Verbatim, SingleLineEdit, MultiLineEdit };
+
+  const SbVec2i32* find(const QFont& font, Reading reading, const SbString& text)
+  {
+    if (font != m_font) {
+      m_font = font;
+      m_metrics.emplace(font);
+      m_sizes.clear();
+    }
+    m_key.assign(1, reading);
+    m_key.append(text.getString(), static_cast<size_t>(text.getLength()));
+    const auto found = m_sizes.find(m_key);
+    return found == m_sizes.end() ? nullptr : &found->second;
+  }
+
+  // The metrics of the font given to the last `find`.
+  const QFontMetrics& metrics()
+  {
+    if (!m_metrics)
+      m_metrics.emplace(m_font);
+    return *m_metrics;
+  }
+
+  // Kept under the key of the last `find`.
+  SbVec2i32 keep(const SbVec2i32& size)
+  {
+    if (m_sizes.size() >= kMaxEntries)
+      m_sizes.clear();
+    m_sizes.emplace(m_key, size);
+    return size;
+  }
+
+private:
+  static constexpr size_t kMaxEntries = 16384;
+  QFont m_font;
+  std::optional<QFontMetrics> m_metrics;
+  std::string m_key;
+  std::unordered_map<std::string, SbVec2i32> m_sizes;
+};
+
+LabelSizes& labelSizes()
+{
+  static LabelSizes sizes;
+  return sizes;
+}
+
+LabelSizes::Reading readingOf(SoFormwright* node)
+{
+  if (node && node->isOfType(SoDialogComboBox::getClassTypeId()))
+    return LabelSizes::Verbatim;
+  if (node && node->isOfType(SoDialogEditText::getClassTypeId()))
+    return static_cast<SoDialogEditText*>(node)->multiLine.getValue() ? LabelSizes::MultiLineEdit
+                                                                       : LabelSizes::SingleLineEdit;
+  return LabelSizes::Plain;
+}
+}
+
 SbVec2i32 SoFormwright::getLabelPixelSize(SbString text, SoFormwright* node)
 {
   if (text.getLength() == 0)
     return SbVec2i32(0, 0);
+  LabelSizes& sizes = labelSizes();
+  if (const SbVec2i32* known = sizes.find(s_dialogFont, readingOf(node), text))
+    return *known;
   const SbString converted = convertToCString(text, node);
   int lines = getNumLines(converted) + 1;
   if (node && node->isOfType(SoDialogEditText::getClassTypeId()) &&
       !static_cast<SoDialogEditText*>(node)->multiLine.getValue())
     lines = 1;
-  const QFontMetrics metrics(s_dialogFont);
+  const QFontMetrics& metrics = sizes.metrics();
   const QString whole = SoControlWidgets::toWidgetText(converted);
   if (lines == 1)
-    return SbVec2i32(metrics.horizontalAdvance(whole) + 3, metrics.height() + 3);
+    return sizes.keep(SbVec2i32(metrics.horizontalAdvance(whole) + 3, metrics.height() + 3));
   int maxWidth = 0;
   int maxHeight = 0;
   for (const QString& piece : whole.split(QLatin1Char('\n'))) {
     maxWidth = std::max(maxWidth, metrics.horizontalAdvance(piece));
     maxHeight = std::max(maxHeight, metrics.height());
   }
-  return SbVec2i32(maxWidth + 3, maxHeight * lines + 3);
+  return sizes.keep(SbVec2i32(maxWidth + 3, maxHeight * lines + 3));
 }
 
 void SoFormwright::setFont(QFont font)
