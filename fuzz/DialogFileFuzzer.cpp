@@ -26,6 +26,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <functional>
+#include <map>
 
 namespace {
 
@@ -35,14 +37,14 @@ void dropError(const SoError*, void*) {}
 void dropQtMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 // Set while the reader runs: it may drop a half-read node and still use it
-// while it unwinds, which only a node that stays in memory survives.
+// while it unwinds, so the nodes dropped then are freed after it returns.
 bool s_reading = false;
+std::map<SoBase*, std::function<void()>> s_droppedWhileReading;
 
 // An interface node that drops the last reference stays in memory, on
 // purpose: an application may still hold its widgets. Over millions of runs
 // that would fill the fuzzer's memory and hide real leaks, so the nodes that
-// the reader makes here are freed as any other node of the toolkit, once the
-// reading is over.
+// the reader makes here are freed as any other node of the toolkit.
 template <class Node>
 class FreedNode : public Node {
 public:
@@ -52,11 +54,21 @@ protected:
   void destroy() override
   {
     if (s_reading)
-      Node::destroy();
+      s_droppedWhileReading[this] = [this] { SoBase::destroy(); };
     else
       SoBase::destroy();
   }
 };
+
+// A dropped node that a later USE took up again is freed by its own last
+// unref instead.
+void freeDroppedNodes()
+{
+  for (auto& [node, free] : s_droppedWhileReading)
+    if (node->getRefCount() == 0)
+      free();
+  s_droppedWhileReading.clear();
+}
 
 #define FORMWRIGHT_FREE_ON_LAST_UNREF(K) SoType::overrideType(K::getClassTypeId(), &FreedNode<K>::create);
 
@@ -124,6 +136,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
   s_reading = true;
   SoSeparator* root = SoDB::readAll(&input);
   s_reading = false;
+  freeDroppedNodes();
   if (!root)
     return 0;
   root->ref();
