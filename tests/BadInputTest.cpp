@@ -145,6 +145,11 @@ std::vector<BadInput> badInputs()
     {"control characters in a label", inWindow("DialogLabel { label \"tab\\there\\x01\\b\\r\\nnext\" }"),
      Outcome::Opens, ""},
     {"two thousand nested groups", nested(2000), Outcome::Opens, ""},
+    {"a row that holds itself", inWindow("DEF self RowDialog { USE self DialogLabel { label \"x\" } }"),
+     Outcome::Opens, "The child holds this node already: a dialog cannot hold itself"},
+    {"a group held again below itself",
+     inWindow("DEF outer DialogGroup { ColumnDialog { USE outer } DialogLabel { } }"), Outcome::Opens,
+     "The child holds this node already: a dialog cannot hold itself"},
   };
 }
 

@@ -15,6 +15,7 @@
 #include <SoMenuBar.h>
 
 #include "SoDBImpl.h"
+#include "SoChildCheck.h"
 #include <SoFormMode.h>
 
 #include <Inventor/SoInput.h>
@@ -271,9 +272,7 @@ private:
 
   bool isChild(const Child* child, const char* operation) const
   {
-    if (!child)
-      SoDebugError::post(source(operation).c_str(), "NULL child node");
-    return child != nullptr;
+    return SoChildCheck::accepts(child, &m_owner, source(operation));
   }
 
   bool inRange(int index, const char* operation) const

@@ -9,6 +9,8 @@
 
 #include <SoFormwright.h>
 
+#include "SoChildCheck.h"
+
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/misc/SoChildList.h>
 
@@ -98,9 +100,7 @@ private:
 
   bool isChild(const Child* child, const char* operation) const
   {
-    if (!child)
-      SoDebugError::post(source(operation).c_str(), "NULL child node");
-    return child != nullptr;
+    return SoChildCheck::accepts(child, &m_owner, source(operation));
   }
 
   void postOutOfRange(const char* operation, int index, int last) const
