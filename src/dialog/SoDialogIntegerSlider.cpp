@@ -116,40 +116,12 @@ void SoDialogIntegerSlider::setValue()
 void SoDialogIntegerSlider::setValueFromEdit(int mode)
 {
   SbString text;
-  if (mode != 0 && buildMode)
-    text = getValueFromEdit();
-  else if (mode == 0 && isBuilt3D())
-    text = get3DValueFromEdit();
-  else
+  if (!SoSliderLimits<SoDialogIntegerSlider>::typedText(*this, mode, text))
     return;
-  int32_t number = SbStringConvert::toInt(text);
+  const int32_t number = SbStringConvert::toInt(text);
   // A fraction typed into a whole-number zone is corrected as well.
-  bool corrected = SbStringConvert::toFloat(text) - float(number) != 0.0f;
-  bool limitMoved = false;
-  if (!fixedLimits.getValue()) {
-    if (number > max.getValue()) {
-      setFieldUnwatched(max, maxSensor, number);
-      limitMoved = true;
-    }
-    if (number < min.getValue()) {
-      setFieldUnwatched(min, minSensor, number);
-      limitMoved = true;
-    }
-  } else if (number > max.getValue()) {
-    number = max.getValue();
-    corrected = true;
-  } else if (number < min.getValue()) {
-    number = min.getValue();
-    corrected = true;
-  }
-  normalizedValue = positionOf(number);
-  // A moved limit may want a wider value zone.
-  if (limitMoved)
-    updateWidget();
-  if (corrected && buildMode)
-    changeEditValue();
-  if (follows3DForm())
-    change3DEditValue();
+  const bool corrected = SbStringConvert::toFloat(text) - float(number) != 0.0f;
+  SoSliderLimits<SoDialogIntegerSlider>::takeTyped(*this, number, corrected);
 }
 
 void SoDialogIntegerSlider::changeEditValue()

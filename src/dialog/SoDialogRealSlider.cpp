@@ -91,39 +91,9 @@ void SoDialogRealSlider::setValue()
 void SoDialogRealSlider::setValueFromEdit(int mode)
 {
   SbString text;
-  if (mode != 0 && buildMode)
-    text = getValueFromEdit();
-  else if (mode == 0 && isBuilt3D())
-    text = get3DValueFromEdit();
-  else
+  if (!SoSliderLimits<SoDialogRealSlider>::typedText(*this, mode, text))
     return;
-  float number = SbStringConvert::toFloat(text);
-  bool corrected = false;
-  bool limitMoved = false;
-  if (!fixedLimits.getValue()) {
-    if (number > max.getValue()) {
-      setFieldUnwatched(max, maxSensor, number);
-      limitMoved = true;
-    }
-    if (number < min.getValue()) {
-      setFieldUnwatched(min, minSensor, number);
-      limitMoved = true;
-    }
-  } else if (number > max.getValue()) {
-    number = max.getValue();
-    corrected = true;
-  } else if (number < min.getValue()) {
-    number = min.getValue();
-    corrected = true;
-  }
-  normalizedValue = positionOf(number);
-  // A moved limit may want a wider value zone.
-  if (limitMoved)
-    updateWidget();
-  if (corrected && buildMode)
-    changeEditValue();
-  if (follows3DForm())
-    change3DEditValue();
+  SoSliderLimits<SoDialogRealSlider>::takeTyped(*this, SbStringConvert::toFloat(text), false);
 }
 
 void SoDialogRealSlider::changeEditValue()

@@ -1,10 +1,10 @@
 #pragma once
 
 // What the integer and the real slider share about their value and limits:
-// the value held between the limits at a build, and the changes of the
-// three fields that follow it. `Slider` has `min`, `max` and `value` fields
-// of one number type, their sensors, and `positionOf`, and befriends this
-// template.
+// the value held between the limits at a build, a value typed into the zone,
+// and the changes of the three fields that follow it. `Slider` has `min`,
+// `max` and `value` fields of one number type, their sensors, and
+// `positionOf`, and befriends this template.
 
 #include <SoDialogSlider.h>
 
@@ -68,6 +68,51 @@ public:
       slider.change3DEditValue();
     showOnBar(slider);
     return true;
+  }
+
+  // The text of the value zone of the form `mode` names; false when that
+  // form does not stand.
+  static bool typedText(Slider& slider, int mode, SbString& text)
+  {
+    if (mode != 0 && slider.buildMode)
+      text = slider.getValueFromEdit();
+    else if (mode == 0 && slider.isBuilt3D())
+      text = slider.get3DValueFromEdit();
+    else
+      return false;
+    return true;
+  }
+
+  // A value typed into the zone. Free limits move out to it, and a moved
+  // limit may want a wider zone; held limits pull it back, and the zone then
+  // shows the value taken, as it does whenever the typed text was `corrected`.
+  template <class Number>
+  static void takeTyped(Slider& slider, Number number, bool corrected)
+  {
+    bool limitMoved = false;
+    if (!slider.fixedLimits.getValue()) {
+      if (number > slider.max.getValue()) {
+        slider.setFieldUnwatched(slider.max, slider.maxSensor, number);
+        limitMoved = true;
+      }
+      if (number < slider.min.getValue()) {
+        slider.setFieldUnwatched(slider.min, slider.minSensor, number);
+        limitMoved = true;
+      }
+    } else if (number > slider.max.getValue()) {
+      number = slider.max.getValue();
+      corrected = true;
+    } else if (number < slider.min.getValue()) {
+      number = slider.min.getValue();
+      corrected = true;
+    }
+    slider.normalizedValue = slider.positionOf(number);
+    if (limitMoved)
+      slider.updateWidget();
+    if (corrected && slider.buildMode)
+      slider.changeEditValue();
+    if (slider.follows3DForm())
+      slider.change3DEditValue();
   }
 
 private:
