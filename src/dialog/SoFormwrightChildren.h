@@ -11,12 +11,12 @@
 #include <SoDialogComponent.h>
 #include <SoDialogGroup.h>
 #include <SoDialogPushButtonLauncher.h>
+#include <SoFormMode.h>
 #include <SoFormwright.h>
 #include <SoMenuBar.h>
 
-#include "SoDBImpl.h"
 #include "SoChildCheck.h"
-#include <SoFormMode.h>
+#include "SoDBImpl.h"
 
 #include <Inventor/SoInput.h>
 #include <Inventor/SoOutput.h>
