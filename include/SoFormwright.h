@@ -178,6 +178,10 @@ protected:
   SoFormwright();
   ~SoFormwright() override;
 
+  // Reads the fields and sets the kit parts that the file gives; the others
+  // stay as made. The kit's own reader sets every part again.
+  SbBool readInstance(SoInput* in, unsigned short flags) override;
+
   void addAuditor(SoAuditor* auditor);
   void removeAuditor(SoAuditor* auditor);
   SoAuditor*& getAuditor(int index);

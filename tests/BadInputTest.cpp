@@ -81,7 +81,7 @@ std::vector<BadInput> badInputs()
     // Names that no class or field has.
     {"an unknown node", "TopLevelDialog { DialogKnob { } }\n", Outcome::Refused, "Node type ``DialogKnob'' not recognized."},
     {"an unknown field", "TopLevelDialog { DialogCheckBox { colour 3 } }\n", Outcome::Refused,
-     "Couldn't read value for field \"colour\""},
+     "Unknown field \"colour\" in \"DialogCheckBox\""},
     {"an undefined USE name", "TopLevelDialog { USE nowhere }\n", Outcome::Refused, "Unknown reference \"nowhere\""},
     // Children of a type that the container does not take.
     {"a shape in a window", "TopLevelDialog { Cube { } }\n", Outcome::Refused, "Cube"},

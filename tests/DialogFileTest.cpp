@@ -4,11 +4,14 @@
 #include <SoDialogCheckBox.h>
 #include <SoDialogEditText.h>
 #include <SoDialogGroup.h>
+#include <SoDialogLabel.h>
 #include <SoMenuBar.h>
 #include <SoTopLevelDialog.h>
 
 #include <Inventor/SoOutput.h>
 #include <Inventor/actions/SoWriteAction.h>
+#include <Inventor/misc/SoChildList.h>
+#include <Inventor/nodes/SoSwitch.h>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -193,6 +196,37 @@ TEST(DialogFileWriting, writtenDialogReadsBackTheSameInTextAndBinary)
   ASSERT_TRUE(fromText && fromBinary);
   EXPECT_EQ(writeToText(fromText), text);
   EXPECT_EQ(writeToText(fromBinary), text);
+}
+
+// The type of the node that holds `part` among the kit's children, or a bad
+// type.
+SoType partHolder(SoNode* below, SoNode* part)
+{
+  SoChildList* children = below->getChildren();
+  for (int i = 0; children && i < children->getLength(); ++i) {
+    if ((*children)[i] == part)
+      return below->getTypeId();
+    const SoType holder = partHolder((*children)[i], part);
+    if (holder != SoType::badType())
+      return holder;
+  }
+  return SoType::badType();
+}
+
+// A part given in the file takes its place in the kit, below the parts that
+// hold it; parts the file leaves alone stay as made.
+TEST(DialogFileWriting, partGivenInTheFileTakesItsPlaceInTheKit)
+{
+  SoSeparator* root = readScene(std::string(kHeader) +
+                                "DialogLabel { label \"a\" edgeStyleNone DEF MinePart Group { } }\n");
+  ASSERT_NE(root, nullptr);
+  auto* label = static_cast<SoDialogLabel*>(root->getChild(0));
+  SoNode* mine = SoNode::getByName("MinePart");
+  ASSERT_NE(mine, nullptr);
+  EXPECT_EQ(label->getPart("edgeStyleNone", FALSE), mine);
+  EXPECT_EQ(partHolder(label, mine), SoSwitch::getClassTypeId()) << "the parts above a given part are made";
+  EXPECT_EQ(label->getPart("edgeStyleShadowIn", FALSE), nullptr);
+  EXPECT_EQ(label->getChildren()->getLength(), 1) << "the kit's own top part";
 }
 
 TEST(DialogFileWriting, writingPartOfAPathStopsAtThePathsChild)

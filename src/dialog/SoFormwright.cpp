@@ -163,6 +163,45 @@ SoFormwright::~SoFormwright()
   delete labelAlignmentSensor;
 }
 
+SbBool SoFormwright::readInstance(SoInput* in, unsigned short flags)
+{
+  // The node fields, parts among them, as the constructor left them.
+  struct NodeField {
+    int index;
+    SoSFNode* field;
+    SoNode* made;
+  };
+  const SoFieldData* fields = getFieldData();
+  std::vector<NodeField> nodeFields;
+  for (int i = 0; i < fields->getNumFields(); ++i) {
+    SoField* field = fields->getField(this, i);
+    if (field->isOfType(SoSFNode::getClassTypeId())) {
+      auto* nodeField = static_cast<SoSFNode*>(field);
+      nodeFields.push_back({i, nodeField, nodeField->getValue()});
+    }
+  }
+  const SbBool notifyWasEnabled = enableNotify(FALSE);
+  const SbBool ok = SoNode::readInstance(in, flags);
+  const SoNodekitCatalog* catalog = getNodekitCatalog();
+  for (const NodeField& entry : nodeFields) {
+    SoNode* given = entry.field->getValue();
+    if (given == entry.made)
+      continue;
+    const int part = catalog->getPartNumber(fields->getFieldName(entry.index));
+    if (part == SO_CATALOG_NAME_NOT_FOUND)
+      continue;
+    // The kit links a part below its parent part only through setPart.
+    if (given)
+      given->ref();
+    entry.field->setValue(entry.made);
+    setPart(part, given);
+    if (given)
+      given->unref();
+  }
+  enableNotify(notifyWasEnabled);
+  return ok;
+}
+
 void SoFormwright::buildWidget(QWidget* parent, SbVec2i32&, SbVec2i32&, int mode)
 {
   if (mode != 0) {

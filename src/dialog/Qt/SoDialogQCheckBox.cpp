@@ -54,10 +54,7 @@ void SoDialogQCheckBox::setLabelText(const QString& text)
 
 void SoDialogQCheckBox::setLabelVisible(bool visible)
 {
-  if (visible)
-    m_label->show();
-  else
-    m_label->hide();
+  showPiece(m_label, visible);
 }
 
 void SoDialogQCheckBox::setState(bool checked)

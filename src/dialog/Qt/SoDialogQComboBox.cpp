@@ -76,10 +76,7 @@ void SoDialogQComboBox::setLabelAlignment(Qt::Alignment alignment)
 
 void SoDialogQComboBox::setLabelVisible(bool visible)
 {
-  if (visible)
-    m_label->show();
-  else
-    m_label->hide();
+  showPiece(m_label, visible);
 }
 
 void SoDialogQComboBox::eventNotify(int index)

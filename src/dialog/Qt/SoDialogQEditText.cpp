@@ -100,10 +100,7 @@ void SoDialogQEditText::setLabelAlignment(Qt::Alignment alignment)
 
 void SoDialogQEditText::setLabelVisible(bool visible)
 {
-  if (visible)
-    m_label->show();
-  else
-    m_label->hide();
+  showPiece(m_label, visible);
 }
 
 void SoDialogQEditText::eventNotifyLine(const QString&)

@@ -17,3 +17,11 @@ void SoDialogQFrame::resizeEvent(QResizeEvent* event)
   m_component->height = event->size().height();
   placePieces();
 }
+
+void SoDialogQFrame::showPiece(QWidget* piece, bool visible)
+{
+  if (!visible)
+    piece->hide();
+  else if (piece->testAttribute(Qt::WA_WState_ExplicitShowHide) || piece->parentWidget()->isVisible())
+    piece->show();
+}

@@ -21,6 +21,10 @@ protected:
   void resizeEvent(QResizeEvent* event) override;
   // Places the control's pieces in the frame's new size.
   virtual void placePieces() = 0;
+  // Shows or hides one piece. A piece never hidden by hand shows with the
+  // frame, and showing it by hand before then would only lay out its text
+  // once more for nothing.
+  static void showPiece(QWidget* piece, bool visible);
 
 private:
   SoDialogComponent* m_component;

@@ -56,10 +56,7 @@ void SoDialogQPushButton::setLabelText(const QString& text)
 
 void SoDialogQPushButton::setLabelVisible(bool visible)
 {
-  if (visible)
-    m_label->show();
-  else
-    m_label->hide();
+  showPiece(m_label, visible);
 }
 
 void SoDialogQPushButton::eventNotify()

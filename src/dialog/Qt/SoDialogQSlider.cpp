@@ -15,14 +15,6 @@ void placeWidget(QWidget* widget, const QRect& place)
   widget->resize(place.width(), place.height());
   widget->move(place.x(), place.y());
 }
-
-void showWidget(QWidget* widget, bool visible)
-{
-  if (visible)
-    widget->show();
-  else
-    widget->hide();
-}
 }
 
 SoDialogQSlider::SoDialogQSlider(QWidget* parent, SoDialogSlider* node) : SoDialogQFrame(parent, node), m_node(node)
@@ -89,17 +81,17 @@ bool SoDialogQSlider::isToggleChecked() const
 
 void SoDialogQSlider::setEditVisible(bool visible)
 {
-  showWidget(m_lineEdit, visible);
+  showPiece(m_lineEdit, visible);
 }
 
 void SoDialogQSlider::setLabelVisible(bool visible)
 {
-  showWidget(m_label, visible);
+  showPiece(m_label, visible);
 }
 
 void SoDialogQSlider::setToggleVisible(bool visible)
 {
-  showWidget(m_toggle, visible);
+  showPiece(m_toggle, visible);
 }
 
 void SoDialogQSlider::setLabelText(const QString& text)
