@@ -181,6 +181,9 @@ protected:
   // Reads the fields and sets the kit parts that the file gives; the others
   // stay as made. The kit's own reader sets every part again.
   SbBool readInstance(SoInput* in, unsigned short flags) override;
+  // The fields alone. A name that is no field ends them quietly unless
+  // `errorOnUnknownField`: in a container it names the first child's type.
+  SbBool readFields(SoInput* in, SbBool errorOnUnknownField);
 
   void addAuditor(SoAuditor* auditor);
   void removeAuditor(SoAuditor* auditor);

@@ -93,6 +93,11 @@ std::vector<BadInput> badInputs()
     {"a menu entry in a tab dialog", "TopLevelDialog { TabDialog { MenuPushButton { } } }\n", Outcome::Refused,
      "MenuPushButton"},
     {"a message in a window", "TopLevelDialog { MessageDialog { } }\n", Outcome::Refused, "MessageDialog"},
+    // Kit parts given nodes of another type.
+    {"a row as a column's top part", inWindow("ColumnDialog { topSeparator RowDialog { } }"), Outcome::Refused,
+     "\"RowDialog\" cannot be the part \"topSeparator\" of \"ColumnDialog\""},
+    {"a label as a label's part", inWindow("DialogLabel { geomSwitch DialogLabel { } }"), Outcome::Refused,
+     "\"DialogLabel\" cannot be the part \"geomSwitch\" of \"DialogLabel\""},
     // Enumerations with names that they do not have.
     {"an unknown alignment", inWindow("DialogLabel { labelAlignment MIDDLE }"), Outcome::Refused,
      "Unknown enumeration value \"MIDDLE\""},

@@ -30,6 +30,7 @@
 #include <Inventor/nodekits/SoNodekitCatalog.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/errors/SoDebugError.h>
+#include <Inventor/errors/SoReadError.h>
 #include <Inventor/lists/SbPList.h>
 #include <Inventor/lists/SbStringList.h>
 #include <Inventor/lists/SoNodeList.h>
@@ -163,7 +164,12 @@ SoFormwright::~SoFormwright()
   delete labelAlignmentSensor;
 }
 
-SbBool SoFormwright::readInstance(SoInput* in, unsigned short flags)
+SbBool SoFormwright::readInstance(SoInput* in, unsigned short)
+{
+  return readFields(in, TRUE);
+}
+
+SbBool SoFormwright::readFields(SoInput* in, SbBool errorOnUnknownField)
 {
   // The node fields, parts among them, as the constructor left them.
   struct NodeField {
@@ -181,7 +187,11 @@ SbBool SoFormwright::readInstance(SoInput* in, unsigned short flags)
     }
   }
   const SbBool notifyWasEnabled = enableNotify(FALSE);
-  const SbBool ok = SoNode::readInstance(in, flags);
+  // The kit's own sensors on its parts wait until every part read has been
+  // checked: they would take a node of any type for the part it names.
+  SoDB::startNotify();
+  SbBool notBuiltIn = FALSE;
+  SbBool ok = fields->read(in, this, errorOnUnknownField, notBuiltIn);
   const SoNodekitCatalog* catalog = getNodekitCatalog();
   for (const NodeField& entry : nodeFields) {
     SoNode* given = entry.field->getValue();
@@ -190,14 +200,20 @@ SbBool SoFormwright::readInstance(SoInput* in, unsigned short flags)
     const int part = catalog->getPartNumber(fields->getFieldName(entry.index));
     if (part == SO_CATALOG_NAME_NOT_FOUND)
       continue;
-    // The kit links a part below its parent part only through setPart.
+    // setPart checks the type and links the part below its parent part.
     if (given)
       given->ref();
     entry.field->setValue(entry.made);
-    setPart(part, given);
+    if (ok && !setPart(part, given)) {
+      ok = FALSE;
+      if (given)
+        SoReadError::post(in, "\"%s\" cannot be the part \"%s\" of \"%s\"", given->getTypeId().getName().getString(),
+                          fields->getFieldName(entry.index).getString(), getTypeId().getName().getString());
+    }
     if (given)
       given->unref();
   }
+  SoDB::endNotify();
   enableNotify(notifyWasEnabled);
   return ok;
 }

@@ -152,8 +152,7 @@ public:
   int readInstance(SoInput* in, unsigned short flags) const
   {
     const SbBool notifyWasEnabled = m_owner.enableNotify(FALSE);
-    SbBool notBuiltIn = FALSE;
-    if (!m_owner.getFieldData()->read(in, &m_owner, FALSE, notBuiltIn))
+    if (!m_owner.readFields(in, FALSE))
       return FALSE;
     int ok = TRUE;
     if (!in->isBinary() || (flags & 2))
