@@ -267,7 +267,13 @@ int run(const QCommandLineParser& options)
 
   QApplication::processEvents();
   const QRect shown(QPoint(0, 0), window->size().boundedTo(largest));
-  if (!window->grab(shown).save(screenshot, "PNG"))
+  QPixmap picture = window->grab(shown);
+  if (picture.isNull()) {
+    // A window with nothing in it has no area of its own to grab.
+    picture = QPixmap(shown.size().expandedTo(QSize(1, 1)));
+    picture.fill(window->palette().color(QPalette::Window));
+  }
+  if (!picture.save(screenshot, "PNG"))
     return fail(QString("cannot write %1").arg(screenshot));
   std::printf("wrote %s\n", screenshot.toLocal8Bit().constData());
   return 0;

@@ -33,6 +33,7 @@
 #include <ctime>
 #include <fstream>
 #include <malloc.h>
+#include <sys/resource.h>
 #include <map>
 #include <memory>
 #include <string>
@@ -49,6 +50,16 @@ using Clock = std::chrono::steady_clock;
 struct Stopwatch {
   Clock::time_point wallStart = Clock::now();
   double cpuStart = threadSeconds();
+  long faultStart = threadFaults();
+
+  // Pages touched for the first time: memory that no earlier opening
+  // touched and gave back.
+  static long threadFaults()
+  {
+    rusage usage{};
+    getrusage(RUSAGE_THREAD, &usage);
+    return usage.ru_minflt;
+  }
 
   static double threadSeconds()
   {
@@ -58,6 +69,7 @@ struct Stopwatch {
   }
   double wall() const { return std::chrono::duration<double>(Clock::now() - wallStart).count(); }
   double cpu() const { return threadSeconds() - cpuStart; }
+  double faults() const { return static_cast<double>(threadFaults() - faultStart); }
 };
 
 double median(std::vector<double> values)
@@ -178,6 +190,7 @@ struct Medians {
 struct Figures {
   Medians cpu;
   Medians wall;
+  Medians faults;
 };
 
 std::map<int, Figures>& table()
@@ -189,11 +202,13 @@ std::map<int, Figures>& table()
 struct Samples {
   std::vector<double> cpu;
   std::vector<double> wall;
+  std::vector<double> faults;
 
   void add(const Stopwatch& watch)
   {
     cpu.push_back(watch.cpu());
     wall.push_back(watch.wall());
+    faults.push_back(watch.faults());
   }
 };
 
@@ -235,7 +250,8 @@ void openDialog(benchmark::State& state)
     state.SetIterationTime(formwright.cpu.back());
   }
   const Figures figures{{median(formwright.cpu), median(loader.cpu), median(hand.cpu)},
-                        {median(formwright.wall), median(loader.wall), median(hand.wall)}};
+                        {median(formwright.wall), median(loader.wall), median(hand.wall)},
+                        {median(formwright.faults), median(loader.faults), median(hand.faults)}};
   table()[controls] = figures;
   const Medians& m = figures.cpu;
   state.counters["fw_us_per_control"] = 1e6 * m.formwright / controls;
@@ -357,10 +373,20 @@ void printMedians(const char* clock, Medians Figures::*which)
   }
 }
 
+void printFaults()
+{
+  std::printf("\nMedian minor page faults per opening\n%8s %14s %14s %14s\n", "N", "Formwright", "QUiLoader",
+              "hand-written");
+  for (const auto& [controls, figures] : table())
+    std::printf("%8d %14.0f %14.0f %14.0f\n", controls, figures.faults.formwright, figures.faults.loader,
+                figures.faults.hand);
+}
+
 void printTable(const MemoryFigures& memory, int memoryControls)
 {
   printMedians("processor time of the main thread", &Figures::cpu);
   printMedians("wall time", &Figures::wall);
+  printFaults();
   const QSize window = windowSizes()[memoryControls];
   std::printf("\nMemory per control at N = %d, window of %dx%d pixels shown (its pixels: %.1f KiB per control)\n",
               memoryControls, window.width(), window.height(),

@@ -25,6 +25,8 @@
 namespace {
 
 const char* const kHeader = "#Inventor V2.1 ascii\n\n";
+// Stands in a row's text for the path of the row's own file.
+const std::string kOwnPath = "OWN_PATH";
 
 enum class Outcome { Refused, Opens };
 
@@ -150,6 +152,11 @@ std::vector<BadInput> badInputs()
     {"control characters in a label", inWindow("DialogLabel { label \"tab\\there\\x01\\b\\r\\nnext\" }"),
      Outcome::Opens, ""},
     {"two thousand nested groups", nested(2000), Outcome::Opens, ""},
+    {"a file that includes itself", "Separator { File { name \"" + kOwnPath + "\" } }\n", Outcome::Refused,
+     "Files include one another more than 32 deep"},
+    {"a file that includes itself through a launcher",
+     "TopLevelDialog { DialogPushButtonLauncher { File { name \"" + kOwnPath + "\" } } }\n", Outcome::Refused,
+     "Files include one another more than 32 deep"},
     {"a row that holds itself", inWindow("DEF self RowDialog { USE self DialogLabel { label \"x\" } }"),
      Outcome::Opens, "The child holds this node already: a dialog cannot hold itself"},
     {"a group held again below itself",
@@ -211,8 +218,11 @@ TEST_F(BadInputs, eachIsRefusedOrOpensAndTheLibraryCarriesOn)
   int index = 0;
   for (const BadInput& row : rows) {
     SCOPED_TRACE(row.what);
-    const std::string path =
-      writeFile("bad" + std::to_string(index) + ".scn", (row.withHeader ? kHeader : "") + row.body);
+    const std::string name = "bad" + std::to_string(index) + ".scn";
+    std::string body = row.body;
+    if (const size_t own = body.find(kOwnPath); own != std::string::npos)
+      body.replace(own, kOwnPath.size(), m_dir.filePath(QString::fromStdString(name)).toStdString());
+    const std::string path = writeFile(name, (row.withHeader ? kHeader : "") + body);
     {
       DebugMessages messages(true);
       SoFormwright* node = load(path);

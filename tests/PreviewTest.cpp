@@ -84,6 +84,8 @@ std::string deepGroups(int depth)
 // 1 with one line of its own when it refused; never by a signal or a hang.
 TEST(Preview, badFilesEndWithZeroOrOneAndOneLineWhenRefused)
 {
+  QTemporaryDir dir;
+  const std::string ownPath = dir.filePath("case.scn").toStdString();
   const struct {
     const char* what;
     std::string text;
@@ -96,6 +98,8 @@ TEST(Preview, badFilesEndWithZeroOrOneAndOneLineWhenRefused)
     {"huge margins", "#Inventor V2.1 ascii\nTopLevelDialog { margin 2000000000 rowSpacing 2000000000 DialogLabel { } }\n",
      0},
     {"five hundred nested rows", deepGroups(500), 0},
+    {"a window with nothing in it", "#Inventor V2.1 ascii\nTopLevelDialog { label \"Empty\" }\n", 0},
+    {"a file that includes itself", "#Inventor V2.1 ascii\nSeparator { File { name \"" + ownPath + "\" } }\n", 1},
     {"no dialog in it", "#Inventor V2.1 ascii\nSeparator { Cube { } }\n", 1},
     {"not the format", "\x7f" "ELF\x02\x01\x01 binary bytes", 1},
     {"cut short", "#Inventor V2.1 ascii\nTopLevelDialog { DialogLabel { label \"", 1},
@@ -103,7 +107,6 @@ TEST(Preview, badFilesEndWithZeroOrOneAndOneLineWhenRefused)
     {"a missing file", "", 1},
     {"an identifier that names nothing", "", 1},
   };
-  QTemporaryDir dir;
   for (const auto& each : cases) {
     SCOPED_TRACE(each.what);
     const QString file = dir.filePath("case.scn");

@@ -13,6 +13,7 @@
 #include "SoFormwrightFile.h"
 #include "SoFormwrightClassList.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoGuardedFile.h"
 #include "SoPreferences.h"
 #include "SoSFFilePathString.h"
 
@@ -85,6 +86,7 @@ void SoFormwright::init()
   SoNodeKit::init();
   SoInteraction::init();
   SoSFFilePathString::initClass();
+  SoGuardedFile::initClass();
   if (s_initRefCount == 0) {
     for (const ClassRegistration& registration : kClasses)
       registration.initClass();
