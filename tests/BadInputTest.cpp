@@ -95,6 +95,12 @@ std::vector<BadInput> badInputs()
     {"a menu entry in a tab dialog", "TopLevelDialog { TabDialog { MenuPushButton { } } }\n", Outcome::Refused,
      "MenuPushButton"},
     {"a message in a window", "TopLevelDialog { MessageDialog { } }\n", Outcome::Refused, "MessageDialog"},
+    {"a label in a menu bar", "TopLevelDialog { MenuBar { DialogLabel { } } }\n", Outcome::Refused,
+     "Type 'DialogLabel' is not derived from 'MenuPopup'"},
+    {"a shape in a menu", "TopLevelDialog { MenuBar { MenuPopup { Cube { } } } }\n", Outcome::Refused,
+     "Type 'Cube' is not derived from 'MenuItem'"},
+    {"a menu entry in a launcher", "TopLevelDialog { DialogCheckBoxLauncher { MenuPushButton { } } }\n",
+     Outcome::Refused, "Type 'MenuPushButton' is not derived from 'TopLevelDialog'"},
     // Kit parts given nodes of another type.
     {"a row as a column's top part", inWindow("ColumnDialog { topSeparator RowDialog { } }"), Outcome::Refused,
      "\"RowDialog\" cannot be the part \"topSeparator\" of \"ColumnDialog\""},
