@@ -158,6 +158,7 @@ std::vector<BadInput> badInputs()
     {"control characters in a label", inWindow("DialogLabel { label \"tab\\there\\x01\\b\\r\\nnext\" }"),
      Outcome::Opens, ""},
     {"two thousand nested groups", nested(2000), Outcome::Opens, ""},
+    {"six thousand nested groups", nested(6000), Outcome::Refused, "Dialog containers are nested more than 5000 deep"},
     {"a file that includes itself", "Separator { File { name \"" + kOwnPath + "\" } }\n", Outcome::Refused,
      "Files include one another more than 32 deep"},
     {"a file that includes itself through a launcher",

@@ -17,11 +17,13 @@
 
 #include "SoChildCheck.h"
 #include "SoDBImpl.h"
+#include "SoReadNesting.h"
 
 #include <Inventor/SoInput.h>
 #include <Inventor/SoOutput.h>
 #include <Inventor/actions/SoWriteAction.h>
 #include <Inventor/errors/SoDebugError.h>
+#include <Inventor/errors/SoReadError.h>
 #include <Inventor/misc/SoChildList.h>
 
 #include <QWidget>
@@ -151,6 +153,11 @@ public:
   // when the fields cannot be read.
   int readInstance(SoInput* in, unsigned short flags) const
   {
+    const SoReadNesting nesting;
+    if (nesting.tooDeep()) {
+      SoReadError::post(in, "Dialog containers are nested more than %d deep", SoReadNesting::kDeepest);
+      return FALSE;
+    }
     const SbBool notifyWasEnabled = m_owner.enableNotify(FALSE);
     if (!m_owner.readFields(in, FALSE))
       return FALSE;
