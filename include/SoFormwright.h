@@ -39,7 +39,7 @@ class SoTranslation;
 // window can also be picked and dragged when the interface lives in the
 // scene. It also starts and ends the library.
 class SoFormwright : public SoDragger {
-  SO_FORMWRIGHT_HEADER(SoFormwright)
+  SO_FORMWRIGHT_ROOT_HEADER(SoFormwright)
 
 public:
   enum LabelAlignment { LEFT = 0, CENTER = 1, RIGHT = 2 };

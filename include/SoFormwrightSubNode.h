@@ -1,28 +1,35 @@
 #pragma once
 
 // Declarations that every interface node class repeats. A class puts
-// SO_FORMWRIGHT_HEADER(ClassName) at the top of its body; its source file
+// SO_FORMWRIGHT_HEADER(ClassName) at the top of its body (the root class
+// SO_FORMWRIGHT_ROOT_HEADER); its source file
 // uses the macros of the library's private SoFormwrightSubNodeSource.h.
 
 #include "SoFormwrightClassData.h"
 
 class SoNodekitCatalog;
 
-#define SO_FORMWRIGHT_HEADER(K)                                                                    \
+#define SO_FORMWRIGHT_HEADER(K) SO_FORMWRIGHT_CLASS_HEADER(K, , override)
+
+// The root class brings in the two lookups that the toolkit's classes lack;
+// every class below it overrides them.
+#define SO_FORMWRIGHT_ROOT_HEADER(K) SO_FORMWRIGHT_CLASS_HEADER(K, virtual, )
+
+#define SO_FORMWRIGHT_CLASS_HEADER(K, newVirtual, overridesOwn)                                    \
 public:                                                                                            \
   static void initClass();                                                                         \
   static void exitClass();                                                                         \
   static SoType getClassTypeId();                                                                  \
-  virtual SoType getTypeId() const;                                                                \
+  SoType getTypeId() const override;                                                               \
   static const SoFieldData** getFieldDataPtr();                                                    \
-  virtual const SoFieldData* getFieldData() const;                                                 \
+  const SoFieldData* getFieldData() const override;                                                \
   static void* createInstance();                                                                   \
   static const SoNodekitCatalog* getClassNodekitCatalog();                                         \
-  virtual const SoNodekitCatalog* getNodekitCatalog() const;                                       \
+  const SoNodekitCatalog* getNodekitCatalog() const override;                                      \
   static const SoNodekitCatalog** getClassNodekitCatalogPtr();                                     \
-  virtual int getIsBuiltIn() const;                                                                \
+  newVirtual int getIsBuiltIn() const overridesOwn;                                                \
   static SbRenderEngineMode& getClassRenderEngineMode();                                           \
-  virtual const SbRenderEngineMode& getRenderEngineMode() const;                                   \
+  newVirtual const SbRenderEngineMode& getRenderEngineMode() const overridesOwn;                   \
                                                                                                    \
 protected:                                                                                         \
   static SoFormwrightClassData s_class;                                                            \

@@ -10,5 +10,5 @@ public:
   // Replaces the instance that Instance() gives; null restores the default.
   // The caller keeps ownership.
   static void setInstance(ScInitModuleCmd* instance);
-  virtual void serialize(const char* moduleName) {}
+  virtual void serialize(const char* /*moduleName*/) {}
 };
