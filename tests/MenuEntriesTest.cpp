@@ -274,7 +274,10 @@ TEST_F(DefaultMenuReports, unheardEntriesReachTheWindowsReportUnlessTheSelection
   ASSERT_EQ(messages.count(), 2u);
   EXPECT_TRUE(messages.contains("SoDialogAuditor::menuCheckBox"));
   EXPECT_TRUE(messages.contains("SoDialogAuditor::menuRadioButtons"));
+  // A field starts with no value of its own: the source holds the current
+  // selection, so that connecting changes nothing but the connection.
   SoSFInt32 source;
+  source.setValue(zoom->selectedItem.getValue());
   zoom->selectedItem.connectFrom(&source);
   action(3)->trigger();
   EXPECT_EQ(messages.count(), 2u);
