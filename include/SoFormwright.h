@@ -108,8 +108,9 @@ public:
   void apply3DParentTranslation();
 
   // Called by the toolkit when the last reference goes. The node is taken
-  // out of the dialog-file cache but stays in memory: bridges, auditors and
-  // parents may still hold plain pointers to it.
+  // out of the dialog-file cache but stays in memory, held by the library for
+  // the rest of the process: bridges, auditors and parents may still hold
+  // plain pointers to it.
   void destroy() override;
 
   // Text and font services. Every pixel size of the library rests on these

@@ -27,8 +27,8 @@ struct SoFormwrightParentClass {
 // Registration state that every interface node class holds for itself: its
 // type, its field table and its nodekit catalog, each built by the first
 // instance and released again by exitClass so that a later start registers
-// the class afresh. Every operation reports misuse through SoDebugError and
-// carries on.
+// the class afresh, under the same type, which exitClass only withdraws.
+// Every operation reports misuse through SoDebugError and carries on.
 class SoFormwrightClassData {
 public:
   explicit SoFormwrightClassData(const char* className) : m_className(className) {}
@@ -84,6 +84,9 @@ private:
   void enterField(SoFieldContainer* instance, const char* name, class SoField& field);
 
   const char* m_className;
+  // The type of the last registration, withdrawn by exitClass: the toolkit
+  // keeps its slot, and the next start takes it up again.
+  SoType m_keptType;
   // True once an instance of the current registration has begun the field
   // table.
   bool m_fieldDataStarted = false;

@@ -4,6 +4,7 @@
 
 #include "BenchmarkDialog.h"
 #include "HandBuiltDialog.h"
+#include "TestSupport.h"
 
 #include <SoTopLevelDialog.h>
 
@@ -113,6 +114,7 @@ protected:
     root->ref();
     formwright = static_cast<SoTopLevelDialog*>(root->getChild(0));
     formwright->ref();
+    heldForTheRun().push_back(formwright);
     root->unref();
     formwright->buildDialog(nullptr, 0);
     hand.reset(HandBuiltDialog::build(dialog));

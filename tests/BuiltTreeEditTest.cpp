@@ -40,6 +40,7 @@ SoDialogLabel* makeLabel(const char* text)
   SoSeparator* root = readScene("#Inventor V2.1 ascii\n" + fixedLabel(text));
   auto* label = static_cast<SoDialogLabel*>(root->getChild(0));
   label->ref();
+  heldForTheRun().push_back(label);
   root->unref();
   return label;
 }

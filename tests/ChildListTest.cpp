@@ -25,13 +25,10 @@ struct ContainerName<SoDialogGroup> {
 template <class Container>
 class ChildList : public ::testing::Test {
 protected:
-  ChildList() : container(new Container)
+  ChildList() : container(makeNode<Container>())
   {
-    container->ref();
-    for (SoDialogLabel*& label : labels) {
-      label = new SoDialogLabel;
-      label->ref();
-    }
+    for (SoDialogLabel*& label : labels)
+      label = makeNode<SoDialogLabel>();
     for (int i = 0; i < 3; ++i)
       container->addChild(labels[i]);
   }

@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include <SoDialogAuditor.h>
 #include <SoDialogLabel.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogPushButtonLauncher.h>
@@ -107,6 +108,24 @@ TEST(Lifecycle, restartRegistersEveryClassAfreshAndTellsTheClusterOnce)
   ASSERT_NE(SoDialogLabel::getClassNodekitCatalog(), nullptr);
   EXPECT_GE(SoDialogLabel::getClassNodekitCatalog()->getPartNumber("geomSwitch"), 0);
   fresh->unref();
+}
+
+// The toolkit never gives back a type's slot and has 32,767 of them: if each
+// start made its types anew, a process would overflow the table after some
+// seven hundred starts. A start takes up the types of the last one instead,
+// which the end in between has withdrawn.
+TEST(Lifecycle, aRestartTakesUpTheTypesOfTheLastStart)
+{
+  const SoType labelType = SoDialogLabel::getClassTypeId();
+  const SoType auditorType = SoDialogAuditor::getClassTypeId();
+  const int typeCount = SoType::getNumTypes();
+  SoFormwright::finish();
+  EXPECT_FALSE(SoType::fromName("DialogLabel").canCreateInstance());
+  SoFormwright::init();
+  EXPECT_EQ(SoType::getNumTypes(), typeCount);
+  EXPECT_EQ(SoDialogLabel::getClassTypeId(), labelType);
+  EXPECT_EQ(SoDialogAuditor::getClassTypeId(), auditorType);
+  EXPECT_TRUE(labelType.canCreateInstance());
 }
 
 TEST(Lifecycle, misuseOfRegistrationIsReportedAndHealed)

@@ -135,16 +135,16 @@ TEST_F(MenuStructure, misuseOfTheChildOperationsIsReported)
   DebugMessages messages;
   bar->addChild(nullptr);
   EXPECT_TRUE(messages.contains("SoMenuBar::addChild(): NULL child node"));
-  bar->insertChild(new SoMenuPopup, 3);
+  bar->insertChild(makeNode<SoMenuPopup>(), 3);
   EXPECT_TRUE(messages.contains("SoMenuBar::insertChild(): Index 3 is out of range 0 - 2"));
   EXPECT_EQ(bar->getChild(2), nullptr);
   EXPECT_TRUE(messages.contains("SoMenuBar::getChild(): Index 2 is out of range 0 - 2"));
   EXPECT_FALSE(messages.contains("Be careful"));
-  bar->removeChild(new SoMenuPopup);
+  bar->removeChild(makeNode<SoMenuPopup>());
   EXPECT_TRUE(messages.contains("SoMenuBar::removeChild(): Index -1 is out of range 0 - 2"));
-  bar->replaceChild(2, new SoMenuPopup);
+  bar->replaceChild(2, makeNode<SoMenuPopup>());
   EXPECT_TRUE(messages.contains("SoMenuBar::replaceChild(): Index 2 is out of range 0 - 2"));
-  file->insertChild(new SoMenuPopup, 2);
+  file->insertChild(makeNode<SoMenuPopup>(), 2);
   EXPECT_TRUE(messages.contains("SoMenuPopup::insertChild(): Index 2 is out of range 0 - 1"));
   ASSERT_EQ(messages.count(), 6u);
 

@@ -49,8 +49,7 @@ private:
 
 SoMessageDialog* makeMessage(SoMessageDialog::Type type, const char* title, const char* text)
 {
-  auto* message = new SoMessageDialog;
-  message->ref();
+  auto* message = makeNode<SoMessageDialog>();
   message->type = type;
   message->title = title;
   message->label = text;
@@ -84,20 +83,19 @@ TEST(MessageDialog, eachKindShowsItsBox)
 TEST(MessageDialog, constructorShowsTheBoxBeforeItReturns)
 {
   BoxAnswerer answerer;
-  new SoMessageDialog("Replace the file?", "Export", SoMessageDialog::MD_QUESTION);
+  heldForTheRun().push_back(new SoMessageDialog("Replace the file?", "Export", SoMessageDialog::MD_QUESTION));
   ASSERT_EQ(answerer.seen.size(), 1u);
   EXPECT_EQ(answerer.seen[0].text, "Replace the file?");
   EXPECT_EQ(answerer.seen[0].buttons, QMessageBox::Yes | QMessageBox::No);
 
   // A default node is an empty about box.
-  auto* plain = new SoMessageDialog;
-  plain->ref();
+  auto* plain = makeNode<SoMessageDialog>();
   plain->show();
   ASSERT_EQ(answerer.seen.size(), 2u);
   EXPECT_EQ(answerer.seen[1].title + answerer.seen[1].text, "");
   EXPECT_EQ(answerer.seen[1].buttons, QMessageBox::Ok);
 
-  new SoMessageDialog("Working", "Busy", SoMessageDialog::MD_WORKING);
+  heldForTheRun().push_back(new SoMessageDialog("Working", "Busy", SoMessageDialog::MD_WORKING));
   SoMessageDialog* unknown = makeMessage(SoMessageDialog::MD_ERROR, "Unknown", "kind");
   unknown->type.setValue(17);
   unknown->show();

@@ -2,15 +2,25 @@
 
 #include <Inventor/SbName.h>
 
+#include "SoKeptType.h"
+
 // The type registration that every auditor class with a type of its own
-// repeats. Auditors are never made from files, so they have no factory.
+// repeats. Auditors are never made from files, so they have no factory; their
+// types outlive the library's end (see SoKeptType.h).
 #define SO_FORMWRIGHT_AUDITOR_SOURCE(K, parentType, typeName)                                      \
   SoType K::classTypeId;                                                                           \
-  void K::initClass() { classTypeId = SoType::createType(parentType, SbName(typeName), nullptr, 0); } \
+  /* Kept past the library's end, and taken up again by its next start. */                         \
+  static SoType soKeptTypeOf##K;                                                                   \
+  void K::initClass()                                                                              \
+  {                                                                                                \
+    classTypeId = SoKeptType::reusable(soKeptTypeOf##K, SbName(typeName), parentType);             \
+    if (classTypeId.isBad())                                                                       \
+      classTypeId = SoType::createType(parentType, SbName(typeName), nullptr, 0);                  \
+  }                                                                                                \
   void K::exitClass()                                                                              \
   {                                                                                                \
     if (!classTypeId.isBad())                                                                      \
-      SoType::removeType(classTypeId.getName());                                                   \
+      soKeptTypeOf##K = classTypeId;                                                               \
     classTypeId = SoType::badType();                                                               \
   }                                                                                                \
   SoType K::getClassTypeId() { return classTypeId; }                                               \

@@ -282,8 +282,11 @@ void SoDialogComponent::destroyWidget()
       delete componentWidget;
     componentWidget = nullptr;
   }
-  // The spacer lives in the placing layout and goes with it.
+  // The spacer lives in the placing layout and goes with it; a bare
+  // component, which shows nothing, never placed it.
   if (placedLayout) {
+    if (layoutSpacer && placedLayout->indexOf(layoutSpacer) < 0)
+      delete layoutSpacer;
     if (componentLayout == placedLayout)
       componentLayout = nullptr;
     delete placedLayout;

@@ -54,6 +54,7 @@
 #include <cstring>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 SO_FORMWRIGHT_SOURCE(SoFormwright, SoDragger, "Formwright")
@@ -75,6 +76,23 @@ const ClassRegistration kClasses[] = {SO_FORMWRIGHT_FOR_EACH_CLASS(SO_FORMWRIGHT
 
 // The box that marks the label measure as not taken yet.
 const SbBox3f kEmptyLabelBox(-1.0f, -1.0f, -1.0f, -1.0f, -1.0f, -1.0f);
+
+// What the library keeps for the rest of the process on purpose: interface
+// nodes whose last reference went, files that left the cache with them, and
+// skin groups. Held here rather than merely never freed, so that the keeping
+// stays in reach and leak checkers can tell it from memory that was lost.
+// Never destroyed, since nodes may still be touched while the process ends.
+struct KeptForTheProcess {
+  std::unordered_set<SoFormwright*> nodes;
+  std::vector<SoFormwrightFile*> files;
+  std::vector<SoNode*> skins;
+};
+
+KeptForTheProcess& keptForTheProcess()
+{
+  static auto* kept = new KeptForTheProcess;
+  return *kept;
+}
 }
 
 void SoFormwright::init()
@@ -531,6 +549,7 @@ void SoFormwright::fieldChangedCB(void* data, SoSensor* sensor)
 void SoFormwright::destroy()
 {
   destroyByRef(this);
+  keptForTheProcess().nodes.insert(this);
 }
 
 void SoFormwright::destroyByRef(SoFormwright* node)
@@ -543,6 +562,7 @@ void SoFormwright::destroyByRef(SoFormwright* node)
       if (root->getChild(child) == node) {
         // The entry and its reference on the root are left as they are: the
         // tree may still be in use elsewhere.
+        keptForTheProcess().files.push_back(static_cast<SoFormwrightFile*>((*s_fileCache)[i]));
         s_fileCache->remove(i);
         return;
       }
@@ -944,6 +964,7 @@ void SoFormwright::readDefaultSkinsParts(const SbString& file, char* builtIn)
   if (SoGroup* group = readFromFile(file)) {
     // Held for the life of the process, so that its DEF names live on.
     group->ref();
+    keptForTheProcess().skins.push_back(group);
     return;
   }
   SbString text = SbString("The skin file : <") + file + "> cannot be found.";
@@ -953,11 +974,14 @@ void SoFormwright::readDefaultSkinsParts(const SbString& file, char* builtIn)
     s_longSkinMessagePending = 0;
   }
   SoDebugError::post("Formwright::readDefaultSkinsParts", "%s", text.getString());
-  // Only the DEF names of the built-in text are wanted: the nodes live on
-  // under them.
+  // Only the DEF names of the built-in text are wanted: the nodes are held
+  // for the process, as a skin file's are.
   SoInput input;
   input.setBuffer(builtIn, std::strlen(builtIn));
-  SoDB::readAll(&input);
+  if (SoSeparator* root = SoDB::readAll(&input)) {
+    root->ref();
+    keptForTheProcess().skins.push_back(root);
+  }
 }
 
 void SoFormwright::change3DSkinParts(const char* file, char* builtIn, std::initializer_list<const char*> names)

@@ -2,6 +2,8 @@
 
 #include <SoTypedObject.h>
 
+#include "SoKeptType.h"
+
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/fields/SoFieldData.h>
 #include <Inventor/fields/SoSFEnum.h>
@@ -35,11 +37,17 @@ void SoFormwrightClassData::initClass(const char* typeName, const SoFormwrightPa
                          parent.name);
       parent.initClass();
     }
-    const auto actionMethodIndex = static_cast<uint16_t>(ActionMethodIndex::next());
-    classTypeId =
-      SoType::createType(parent.getClassTypeId(), SbName(typeName), createInstance, actionMethodIndex);
-    if (!parentFieldData)
-      ActionMethodIndex::increment();
+    classTypeId = SoKeptType::reusable(m_keptType, SbName(typeName), parent.getClassTypeId());
+    if (!classTypeId.isBad()) {
+      // Taken up again with the slot of action methods it was made with.
+      SoType::overrideType(classTypeId, createInstance);
+    } else {
+      const auto actionMethodIndex = static_cast<uint16_t>(ActionMethodIndex::next());
+      classTypeId =
+        SoType::createType(parent.getClassTypeId(), SbName(typeName), createInstance, actionMethodIndex);
+      if (!parentFieldData)
+        ActionMethodIndex::increment();
+    }
     parentFieldData = parent.fieldDataPtr;
   }
   parentNodekitCatalogPtr = parent.nodekitCatalogPtr;
@@ -47,8 +55,11 @@ void SoFormwrightClassData::initClass(const char* typeName, const SoFormwrightPa
 
 void SoFormwrightClassData::exitClass()
 {
-  // The bad type has a name of its own, which must never be removed.
-  if (!classTypeId.isBad() && SoType::removeType(classTypeId.getName())) {
+  // The type stays in the toolkit, withdrawn: no file or factory makes an
+  // instance of it until the next start takes it up again.
+  if (!classTypeId.isBad()) {
+    SoType::overrideType(classTypeId, nullptr);
+    m_keptType = classTypeId;
     classTypeId = SoType::badType();
     delete fieldData;
     fieldData = nullptr;

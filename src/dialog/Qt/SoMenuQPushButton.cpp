@@ -47,6 +47,16 @@ void SoMenuQPushButton::changeAccelerator(const char* text)
 void SoMenuQPushButton::forgetNode()
 {
   m_node = nullptr;
+  // Nothing holds the entry any more but its menu.
+  if (!m_parentMenu) {
+    delete this;
+    return;
+  }
+  connect(m_parentMenu, &QObject::destroyed, this, [this] {
+    // The menu is on its way out: its guard still points at it.
+    m_parentMenu.clear();
+    delete this;
+  });
 }
 
 void SoMenuQPushButton::menuEvent()

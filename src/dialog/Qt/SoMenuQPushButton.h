@@ -6,7 +6,7 @@
 class QAction;
 class SoMenuItem;
 
-// The Qt side of a menu entry: an invisible widget, held by nothing, that
+// The Qt side of a menu entry: an invisible widget, held by its node, that
 // owns the entry's QAction in the menu that shows it and passes a trigger on
 // to the node. The check box and radio entries build on it.
 class SoMenuQPushButton : public QWidget {
@@ -25,7 +25,9 @@ public:
   // `text` as getKeyCombination gives it; a text Qt cannot read leaves the
   // action without a shortcut.
   void changeAccelerator(const char* text);
-  // The node is going: the action stays in its menu and does nothing more.
+  // The node is going: the action stays in its menu and does nothing more,
+  // and the entry goes with the menu, at once if the menu has gone already.
+  // The entry may be deleted when this returns.
   void forgetNode();
 
 public Q_SLOTS:
