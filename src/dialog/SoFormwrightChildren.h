@@ -17,7 +17,7 @@
 
 #include "SoChildCheck.h"
 #include "SoDBImpl.h"
-#include "SoReadNesting.h"
+#include "SoNesting.h"
 
 #include <Inventor/SoInput.h>
 #include <Inventor/SoOutput.h>
@@ -29,6 +29,12 @@
 #include <QWidget>
 
 #include <string>
+
+// Containers of every kind are read inside one another, and reading,
+// building and painting all walk the nesting by recursion: 5,000 levels
+// still fit the main thread's stack.
+constexpr int kDeepestContainerNesting = 5000;
+inline int s_containerReadDepth = 0;
 
 template <class Owner, class Child>
 class SoFormwrightChildren {
@@ -153,9 +159,9 @@ public:
   // when the fields cannot be read.
   int readInstance(SoInput* in, unsigned short flags) const
   {
-    const SoReadNesting nesting;
+    const SoNesting nesting(s_containerReadDepth, kDeepestContainerNesting);
     if (nesting.tooDeep()) {
-      SoReadError::post(in, "Dialog containers are nested more than %d deep", SoReadNesting::kDeepest);
+      SoReadError::post(in, "Dialog containers are nested more than %d deep", kDeepestContainerNesting);
       return FALSE;
     }
     const SbBool notifyWasEnabled = m_owner.enableNotify(FALSE);

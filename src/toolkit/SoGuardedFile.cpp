@@ -1,5 +1,7 @@
 #include "SoGuardedFile.h"
 
+#include "SoNesting.h"
+
 #include <Inventor/SoType.h>
 #include <Inventor/errors/SoReadError.h>
 
@@ -17,13 +19,11 @@ void* SoGuardedFile::createInstance()
 
 SbBool SoGuardedFile::readInstance(SoInput* in, unsigned short flags)
 {
-  if (s_nesting >= kDeepestNesting) {
+  const SoNesting nesting(s_nesting, kDeepestNesting);
+  if (nesting.tooDeep()) {
     SoReadError::post(in, "Files include one another more than %d deep: a file may be including itself",
                       kDeepestNesting);
     return FALSE;
   }
-  ++s_nesting;
-  const SbBool ok = SoFile::readInstance(in, flags);
-  --s_nesting;
-  return ok;
+  return SoFile::readInstance(in, flags);
 }
