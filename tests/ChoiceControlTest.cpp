@@ -48,6 +48,17 @@ Choice* makeChoice(const char* label, std::initializer_list<const char*> entries
   return node;
 }
 
+// Builds and shows `node` with an auditor that answers every choice with the
+// first entry; false when the window never came up.
+bool showWithOverridingAuditor(ControlWindow& window, SoDialogChoice* node, ChoiceAuditor& auditor)
+{
+  auditor.overrideWith = 0;
+  node->addAuditor(&auditor);
+  window.build(node);
+  window.widget.show();
+  return QTest::qWaitForWindowExposed(&window.widget);
+}
+
 std::vector<std::string> itemsOf(const SoDialogChoice* node)
 {
   std::vector<std::string> texts;
@@ -209,11 +220,7 @@ TEST(DialogComboBox, userChoiceTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidg
   ControlWindow window;
   SoDialogComboBox* node = makeChoice<SoDialogComboBox>("", {"a", "b", "c"});
   ChoiceAuditor auditor;
-  auditor.overrideWith = 0;
-  node->addAuditor(&auditor);
-  window.build(node);
-  window.widget.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window.widget));
+  ASSERT_TRUE(showWithOverridingAuditor(window, node, auditor));
   QComboBox* combo = comboOf(window);
   combo->setFocus();
 
@@ -296,11 +303,7 @@ TEST(DialogRadioButtons, clickTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidge
   ControlWindow window;
   SoDialogRadioButtons* node = makeChoice<SoDialogRadioButtons>("", {"a", "b", "c"});
   ChoiceAuditor auditor;
-  auditor.overrideWith = 0;
-  node->addAuditor(&auditor);
-  window.build(node);
-  window.widget.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window.widget));
+  ASSERT_TRUE(showWithOverridingAuditor(window, node, auditor));
 
   QRadioButton* third = buttonsOf(window)[2];
   QTest::mouseClick(third, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, third->height() / 2));
