@@ -26,6 +26,7 @@ class SoGetBoundingBoxAction;
 class SoGetMatrixAction;
 class SoGroup;
 class SoMaterial;
+class SoPath;
 class SoPickStyle;
 class SoRayPickAction;
 class SoSearchAction;
@@ -258,6 +259,9 @@ protected:
   // Gives each picked point below the node a detail that names the
   // interface node hit and its part.
   static void addInterfaceDetails(SoRayPickAction* action);
+  // What the press of the current or last drag hit. The toolkit forgets its
+  // pick path before the release, where most controls act.
+  const SoPath* getPressPath() const { return pressPath; }
 
   int buildMode = 0;
   QWidget* parentWidget = nullptr;
@@ -286,6 +290,9 @@ protected:
 
 private:
   void create3DFormwright();
+  static void keepPressPathCB(void* data, SoDragger* dragger);
+
+  SoPath* pressPath = nullptr;
 
   static int32_t s_initRefCount;
   static SbThreadMutex* s_initMutex;

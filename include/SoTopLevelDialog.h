@@ -231,7 +231,6 @@ private:
   SbVec3f startPosition{0.0f, 0.0f, 0.0f};
   float frameDepth = -1.0f;
   int firstMinimize = 1;
-  int pressedOnButton = 0;
 
   friend class SoFormwrightChildren<SoTopLevelDialog, SoTopComponent>;
   SoFormwrightChildren<SoTopLevelDialog, SoTopComponent> childList() const;

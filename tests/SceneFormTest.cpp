@@ -1,121 +1,20 @@
-// The 3D form, worked without a window: actions and synthetic events are
-// applied to a scene with an orthographic camera in which one scene unit is
-// one pixel of the viewport.
-
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
+#include "SceneTestSupport.h"
 
 #include <SoDialogCheckBox.h>
 #include <SoDialogComponent.h>
-#include <SoFormwright.h>
 #include <SoRowDialog.h>
-#include <SoTopLevelDialog.h>
 
-#include <SoFormMode.h>
-
-#include <Inventor/SbViewportRegion.h>
-#include <Inventor/SoPickedPoint.h>
-#include <Inventor/actions/SoGetBoundingBoxAction.h>
-#include <Inventor/actions/SoHandleEventAction.h>
-#include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/actions/SoSearchAction.h>
-#include <Inventor/events/SoLocation2Event.h>
-#include <Inventor/events/SoMouseButtonEvent.h>
 #include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoMaterial.h>
-#include <Inventor/nodes/SoOrthographicCamera.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <string>
-
 namespace {
-
-const int kViewport = 400;
-
-// A dialog in a scene, seen from above: the viewport's pixel (x, y), counted
-// from its lower left corner, looks at the scene point (x, y - 400).
-struct Scene {
-  SoSeparator* root = new SoSeparator;
-  SbViewportRegion viewport{kViewport, kViewport};
-
-  Scene()
-  {
-    root->ref();
-    auto* camera = new SoOrthographicCamera;
-    camera->position.setValue(kViewport / 2.0f, -kViewport / 2.0f, 100.0f);
-    camera->height = static_cast<float>(kViewport);
-    camera->nearDistance = 1.0f;
-    camera->farDistance = 200.0f;
-    root->addChild(camera);
-  }
-  ~Scene() { root->unref(); }
-
-  // A scene point as an event position.
-  static SbVec2s pixel(float x, float y) { return SbVec2s(static_cast<short>(x), static_cast<short>(y + kViewport)); }
-
-  void button(SoButtonEvent::State state, float x, float y)
-  {
-    SoMouseButtonEvent event;
-    event.setButton(SoMouseButtonEvent::BUTTON1);
-    event.setState(state);
-    event.setPosition(pixel(x, y));
-    apply(event);
-  }
-  void move(float x, float y)
-  {
-    SoLocation2Event event;
-    event.setPosition(pixel(x, y));
-    apply(event);
-  }
-  void click(float x, float y)
-  {
-    button(SoButtonEvent::DOWN, x, y);
-    button(SoButtonEvent::UP, x, y);
-  }
-  void apply(SoEvent& event)
-  {
-    event.setTime(SbTime::getTimeOfDay());
-    SoHandleEventAction action(viewport);
-    action.setEvent(&event);
-    action.apply(root);
-  }
-  // The deepest interface node under a scene point.
-  SoFormwright* pickedNode(float x, float y)
-  {
-    SoRayPickAction pick(viewport);
-    pick.setPoint(pixel(x, y));
-    pick.apply(root);
-    const SoPickedPoint* point = pick.getPickedPoint();
-    if (!point)
-      return nullptr;
-    const std::vector<SoNode*> path = fullPathNodes(point->getPath());
-    for (auto node = path.rbegin(); node != path.rend(); ++node)
-      if ((*node)->isOfType(SoFormwright::getClassTypeId()))
-        return static_cast<SoFormwright*>(*node);
-    return nullptr;
-  }
-};
-
-// Builds in the scene form as the application would, through the
-// toolkit-wide choice.
-void buildInScene(SoTopLevelDialog* dialog)
-{
-  SoFormMode::setSceneForm(true);
-  dialog->buildDialog(nullptr, 0);
-  SoFormMode::setSceneForm(false);
-}
-
-// The centre of a node's geometry in the scene.
-SbVec3f centreOf(SoNode* node)
-{
-  SoGetBoundingBoxAction box{SbViewportRegion()};
-  box.apply(node);
-  return box.getBoundingBox().getCenter();
-}
 
 class CountingDialog : public SoTopLevelDialog {
 public:

@@ -174,6 +174,8 @@ SoFormwright::~SoFormwright()
   delete bboxAction;
   delete searchAction;
   delete matrixAction;
+  if (pressPath)
+    pressPath->unref();
   if (pickStyle)
     pickStyle->unref();
   if (enableMaterial)
@@ -346,8 +348,11 @@ void SoFormwright::create3DFormwright()
   // what is missing is made.
   if (!bboxAction)
     bboxAction = new SoGetBoundingBoxAction(SbViewportRegion());
-  if (!searchAction)
+  if (!searchAction) {
     searchAction = new SoSearchAction;
+    // First of the start callbacks, so that every class's own sees it.
+    addStartCallback(&SoFormwright::keepPressPathCB);
+  }
   if (!matrixAction)
     matrixAction = new SoGetMatrixAction(SbViewportRegion());
   if (!pickStyle) {
@@ -359,6 +364,17 @@ void SoFormwright::create3DFormwright()
     enableMaterial->ref();
   }
   labelBBox = kEmptyLabelBox;
+}
+
+void SoFormwright::keepPressPathCB(void*, SoDragger* dragger)
+{
+  auto* node = static_cast<SoFormwright*>(dragger);
+  if (node->pressPath)
+    node->pressPath->unref();
+  const SoPath* picked = node->getPickPath();
+  node->pressPath = picked ? picked->copy() : nullptr;
+  if (node->pressPath)
+    node->pressPath->ref();
 }
 
 void SoFormwright::apply3DParentTranslation()

@@ -758,11 +758,8 @@ void SoTopLevelDialog::finishCB3D(void*, SoDragger* dragger)
 void SoTopLevelDialog::draggerStartCallback3D()
 {
   const SoPath* path = getPickPath();
-  // The toolkit forgets the pick before the release: what the press hit is
-  // kept for it.
-  pressedOnButton = path && path->containsNode(minSep.getValue());
   if (path) {
-    if (pressedOnButton) {
+    if (path->containsNode(minSep.getValue())) {
       setSwitchValue(minSwtch.getValue(), 1);
     } else if (path->containsNode(frameSep.getValue())) {
       worldStartPoint = getWorldStartingPoint();
@@ -802,9 +799,9 @@ void SoTopLevelDialog::draggerMotionCallback3D()
 void SoTopLevelDialog::draggerFinishCallback3D()
 {
   // Only the button acts at release, wherever the pointer has gone.
-  if (!pressedOnButton)
+  const SoPath* path = getPressPath();
+  if (!path || !path->containsNode(minSep.getValue()))
     return;
-  pressedOnButton = 0;
   setSwitchValue(minSwtch.getValue(), 0);
   const int wasMinimized = minimized.getValue();
   show3DChildren(wasMinimized);
