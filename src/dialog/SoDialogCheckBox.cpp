@@ -312,11 +312,14 @@ void SoDialogCheckBox::change3DLabel()
 
 void SoDialogCheckBox::change3DLabelAlignment()
 {
-  update3DLabel();
+  if (isBuilt3D())
+    update3DLabel();
 }
 
 void SoDialogCheckBox::change3DLabelVisibility()
 {
+  if (!isBuilt3D())
+    return;
   setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   update3DCheckBox();
 }

@@ -266,11 +266,14 @@ void SoDialogPushButton::change3DLabel()
 
 void SoDialogPushButton::change3DLabelAlignment()
 {
-  update3DLabel();
+  if (isBuilt3D())
+    update3DLabel();
 }
 
 void SoDialogPushButton::change3DLabelVisibility()
 {
+  if (!isBuilt3D())
+    return;
   setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   update3DButton();
 }

@@ -493,6 +493,8 @@ void SoDialogRadioButtons::change3DLabel()
 
 void SoDialogRadioButtons::change3DLabelVisibility()
 {
+  if (!isBuilt3D())
+    return;
   setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   update3DLabel();
 }
