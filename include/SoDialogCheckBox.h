@@ -40,10 +40,14 @@ protected:
   ~SoDialogCheckBox() override;
 
   void changeOnOffString();
-  // The 3D form; empty until the in-scene presentation is built.
+  // A release after a press on the mark, the frame or the box's text
+  // toggles the box; a press on the label does nothing.
   virtual void draggerFinishCallback3D();
   void change3DState();
   void change3DOnOffString();
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
+  void change3DLabelVisibility() override;
 
   SoDialogQCheckBox* checkBoxWidget = nullptr;
   SoFieldSensor* stateSensor = nullptr;
@@ -52,6 +56,28 @@ protected:
   // The pixel sizes of the two texts with the box's margins.
   SbVec2i32 onPixelSize{0, 0};
   SbVec2i32 offPixelSize{0, 0};
+
+  SoSFNode labelSep;
+  SoSFNode labelSwitch;
+  SoSFNode labelProp;
+  SoSFNode frameSep;
+  SoSFNode frame;
+  SoSFNode stateSep;
+  SoSFNode stateSwitch;
+  SoSFNode stateOff;
+  SoSFNode stateOn;
+  SoSFNode onOffStringSep;
+  SoSFNode onOffStringProp;
+  SoText3* labelText = nullptr;
+  SoTranslation* labelTranslation = nullptr;
+  SoScale* frameScale = nullptr;
+  SoTranslation* frameTranslation = nullptr;
+  SoTransform* frameTransform = nullptr;
+  SoTranslation* stateTranslation = nullptr;
+  SoText3* onOffText = nullptr;
+  SoTranslation* onOffTranslation = nullptr;
+  // The box text's measured box; empty until measured.
+  SbBox3f onOffBBox;
 
 private:
   SbVec2i32 getComponentInitSize() override;
@@ -64,4 +90,5 @@ private:
   void create3DDialogCheckBox();
   void update3DCheckBox();
   void update3DLabel();
+  static void finishCB3D(void* data, SoDragger* dragger);
 };

@@ -93,6 +93,10 @@ protected:
 
   void create3DDialogComponent();
   void update3DDialogComponent();
+  // The area that a control's body may fill in the 3D form, in pixels: its
+  // size and its centre's offset from the control's centre. A visible label
+  // takes the left part.
+  void get3DComponentSize(SbVec2i32& size, SbVec2i32& offset);
 
   // The 3D form's frame: the control's centre, the size of its edge block,
   // and the lift onto the block's top.

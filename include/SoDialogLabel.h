@@ -28,14 +28,22 @@ protected:
   void changeLabel() override;
   void changeLabelAlignment() override;
   void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
+  // The text broken to the control's width, one value per shown line.
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
 
   // The text's pixel size, its width corrected by the label column.
   SbVec2i32 labelPixelSize{0, 0};
 
+  SoSFNode labelSep;
+  SoSFNode labelProp;
+  SoText3* labelText = nullptr;
+  SoTranslation* labelTranslation = nullptr;
+
 private:
   void createLabelWidget();
-  // The 3D form; empty until the in-scene presentation is built.
   void create3DDialogLabel();
+  // Places the text by its measured box and the alignment.
   void update3DLabel();
 
   SoDialogQLabel* bridge() const;

@@ -34,6 +34,12 @@ public:
   void updateLabelWidget();
   void updateButtonWidget();
   void applyDlgCptAuditor();
+  // Replace the two looks of the block in the 3D form. The names read
+  // inverted: the first replaces the look shown while released, the second
+  // the one shown while pressed. The caption follows a new look at the next
+  // press or release.
+  void set3DPressedGeometry(SoNode* geometry);
+  void set3DReleasedGeometry(SoNode* geometry);
 
 protected:
   ~SoDialogPushButton() override;
@@ -43,15 +49,41 @@ protected:
   void changeLabelAlignment() override;
   void changeButtonLabel();
   // Pressed or released look; only the 3D form has one of its own.
-  void changeButtonState(int pressed);
-  // The 3D form; empty until the in-scene presentation is built.
+  void changeButtonState(int pressedNow);
   void change3DButtonLabel();
-  void change3DButtonState(int pressed);
+  // The block goes down or up, and the caption with its top.
+  void change3DButtonState(int pressedNow);
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
+  void change3DLabelVisibility() override;
+  // A press on the block or its caption presses the button; the release
+  // fires it, wherever the pointer has gone.
+  virtual void draggerStartCallback3D();
+  virtual void draggerFinishCallback3D();
 
   SoDialogQPushButton* buttonWidget = nullptr;
   // The button text's pixel size with the button's margins.
   SbVec2i32 buttonPixelSize{0, 0};
   SoFieldSensor* buttonLabelSensor = nullptr;
+
+  SoSFNode labelSep;
+  SoSFNode labelSwitch;
+  SoSFNode labelProp;
+  SoSFNode frameSep;
+  SoSFNode frameSwitch;
+  SoSFNode released;
+  SoSFNode pressed;
+  SoSFNode buttonLabelSep;
+  SoSFNode buttonLabelProp;
+  SoText3* labelText = nullptr;
+  SoTranslation* labelTranslation = nullptr;
+  SoScale* frameScale = nullptr;
+  SoTranslation* frameTranslation = nullptr;
+  SoTransform* frameTransform = nullptr;
+  SoText3* buttonLabelText = nullptr;
+  SoTranslation* buttonLabelTranslation = nullptr;
+  // The caption's measured box; empty until measured.
+  SbBox3f buttonLabelBBox;
 
 private:
   void createLabelWidget();
@@ -60,4 +92,8 @@ private:
   void create3DDialogPushButton();
   void update3DButton();
   void update3DLabel();
+  static void startCB3D(void* data, SoDragger* dragger);
+  static void finishCB3D(void* data, SoDragger* dragger);
+  // Whether the press hit the block or its caption, not the label.
+  bool pressHitsButton(const SoPath* path) const;
 };

@@ -3,6 +3,8 @@
 #include "SoDialogChoice.h"
 #include "SoDialogWidgetList.h"
 
+#include <Inventor/lists/SoNodeList.h>
+
 #include <memory>
 
 class SoDialogQRadioButtons;
@@ -46,6 +48,56 @@ protected:
   // 1 only while the list of items changes, for the 3D form.
   int32_t itemsChanging = 0;
 
+  // The 3D form. The catalog parts make the first item; further items are
+  // plain nodes of the same shape that share its translations, scales and
+  // looks. `itemsSep` is a switch, which hides the items when none is left.
+  SoSFNode frameSep;
+  SoSFNode frame;
+  SoSFNode labelSep;
+  SoSFNode labelSwitch;
+  SoSFNode labelProp;
+  SoSFNode itemsSep;
+  SoSFNode itemSep;
+  SoSFNode itemFrameSep;
+  SoSFNode itemFrame;
+  SoSFNode itemBtnSep;
+  SoSFNode itemBtnSwtch;
+  SoSFNode stateOff;
+  SoSFNode stateOn;
+  SoSFNode itemTextSep;
+  SoSFNode itemTextProp;
+  SoText3* labelText = nullptr;
+  SoTranslation* labelTranslation = nullptr;
+  SoScale* frameScale = nullptr;
+  SoTransform* frameTransform = nullptr;
+  // Places the first item; the step walks down one item between items.
+  SoTranslation* itemsTranslation = nullptr;
+  SoTranslation* itemStepTranslation = nullptr;
+  SoScale* itemScale = nullptr;
+  SoTransform* itemTransform = nullptr;
+  SoScale* btnScale = nullptr;
+  SoTranslation* btnTranslation = nullptr;
+  SoTranslation* textTranslation = nullptr;
+  // One entry per item shown, in order.
+  SoNodeList itemSeparators;
+  SoNodeList itemTexts;
+  SoNodeList itemSwitches;
+  // The first item's measured text box; empty until measured.
+  SbBox3f itemBBox;
+  // The selection that the 3D form last showed, to which a selection out of
+  // range goes back.
+  int32_t lastSelectedItem = 0;
+
+  void change3DItems() override;
+  // Mends a selection out of range, then shows the selected item.
+  void change3DSelectedItem() override;
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
+  void change3DLabelVisibility() override;
+  // A release after a press on an item chooses it, and tells the auditors
+  // even when it was chosen already.
+  virtual void draggerFinishCallback3D();
+
 private:
   // Spreads the height of the 3D form over the buttons, a pixel at a time
   // and button after button, each within its bounds.
@@ -65,4 +117,9 @@ private:
   SoDialogQRadioButtons* bridge() const;
   void create3DDialogRadioButtons();
   void update3DRadioButtons();
+  // The frame and the title across its top.
+  void update3DLabel();
+  static void finishCB3D(void* data, SoDragger* dragger);
+  // Adds the nodes of one more item below the others.
+  void add3DItem(int index);
 };

@@ -25,10 +25,16 @@ protected:
   SoDialogQSeparator* separatorWidget = nullptr;
   int32_t orientationHorz = 1;
 
+  SoSFNode frameSep;
+  SoSFNode frameSwitch;
+  SoSFNode vFrame;
+  SoSFNode hFrame;
+  SoScale* frameScale = nullptr;
+
 private:
   void createSeparatorWidget();
   void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
-  // The 3D form; empty until the in-scene presentation is built.
   void create3DSeparator();
+  // A line of the control's size less its border, turned by the orientation.
   void update3DSeparator();
 };

@@ -174,6 +174,10 @@ std::vector<BadInput> badInputs()
 
 class BadInputs : public ::testing::Test {
 protected:
+  // A class's first build in the scene reads its skin; a missing skin file
+  // would speak up in whichever row builds the class first.
+  void SetUp() override { SoFormwright::setSkin(SbString(FORMWRIGHT_EXAMPLES "/../skins/default")); }
+
   std::string writeFile(const std::string& name, const std::string& text)
   {
     const std::string path = m_dir.filePath(QString::fromStdString(name)).toStdString();

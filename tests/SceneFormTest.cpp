@@ -233,8 +233,7 @@ TEST(ScenePlacement, aMeasuredRowKeepsItsChildrenOneBelowTheOther)
   EXPECT_FLOAT_EQ(first[1] - second[1], 37.0f);
   EXPECT_FLOAT_EQ(first[0], second[0]);
 
-  // Check boxes have no look of their own in the scene yet: they stand in
-  // their frames all the same.
+  // Controls that draw a look of their own stand in their frames too.
   auto* boxes = new SoRowDialog;
   boxes->rowSpacing = 4;
   auto* one = new SoDialogCheckBox;

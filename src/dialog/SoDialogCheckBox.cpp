@@ -3,8 +3,17 @@
 #include <SoDialogCheckBoxAuditor.h>
 
 #include "Qt/SoDialogQCheckBox.h"
+#include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
+
+#include <Inventor/SoPath.h>
+#include <Inventor/nodes/SoScale.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoText3.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
 
 #include <QBoxLayout>
 
@@ -18,7 +27,19 @@ SoDialogCheckBox::SoDialogCheckBox()
   SO_FORMWRIGHT_ADD_FIELD(state, FALSE);
   SO_FORMWRIGHT_ADD_FIELD(onString, "");
   SO_FORMWRIGHT_ADD_FIELD(offString, "");
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelSwitch, SoSwitch, SoSwitch, labelSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelProp, SoGroup, SoGroup, labelSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frame, SoGroup, SoGroup, frameSep, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(stateSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(stateSwitch, SoSwitch, SoSwitch, stateSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(stateOff, SoGroup, SoGroup, stateSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(stateOn, SoGroup, SoGroup, stateSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(onOffStringSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(onOffStringProp, SoGroup, SoGroup, onOffStringSep, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
+  onOffBBox.makeEmpty();
 }
 
 SoDialogCheckBox::~SoDialogCheckBox()
@@ -202,9 +223,146 @@ void SoDialogCheckBox::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32
   size[1] = std::max({size[1], onPixelSize[1], offPixelSize[1]});
 }
 
-void SoDialogCheckBox::draggerFinishCallback3D() {}
-void SoDialogCheckBox::create3DDialogCheckBox() {}
-void SoDialogCheckBox::update3DCheckBox() {}
-void SoDialogCheckBox::update3DLabel() {}
-void SoDialogCheckBox::change3DState() {}
-void SoDialogCheckBox::change3DOnOffString() {}
+void SoDialogCheckBox::create3DDialogCheckBox()
+{
+  loadFontProperties();
+  loadSkinOnce();
+  setPartAsDefault("frame", "DialogCheckBoxFrame", TRUE);
+  setPartAsDefault("stateOff", "DialogCheckBoxStateOff", TRUE);
+  setPartAsDefault("stateOn", "DialogCheckBoxStateOn", TRUE);
+  setPartAsDefault("labelProp", "DialogTextProperties", TRUE);
+  setPartAsDefault("onOffStringProp", "DialogTextProperties", TRUE);
+
+  SoGroup* switchNode = get3DPart("geomSwitch");
+  SoGroup* labelGroup = get3DPart("labelSwitch");
+  SoGroup* frameGroup = get3DPart("frameSep");
+  SoGroup* markGroup = get3DPart("stateSep");
+  SoGroup* textGroup = get3DPart("onOffStringSep");
+  labelTranslation = new SoTranslation;
+  labelGroup->insertChild(labelTranslation, 0);
+  labelText = SoControl3D::newFrontText();
+  labelGroup->addChild(labelText);
+  frameScale = new SoScale;
+  frameGroup->insertChild(frameScale, 0);
+  // The mark and the text lie on the frame, and move with it.
+  frameTranslation = new SoTranslation;
+  switchNode->insertChild(frameTranslation, switchNode->findChild(frameGroup));
+  frameTransform = new SoTransform;
+  switchNode->insertChild(frameTransform, switchNode->findChild(markGroup));
+  auto* markScale = new SoScale;
+  markScale->scaleFactor.setValue(14.0f, 14.0f, 1.0f);
+  markGroup->insertChild(markScale, 0);
+  stateTranslation = new SoTranslation;
+  markGroup->insertChild(stateTranslation, 0);
+  onOffTranslation = new SoTranslation;
+  textGroup->insertChild(onOffTranslation, 0);
+  onOffText = SoControl3D::newFrontText();
+  textGroup->addChild(onOffText);
+  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+
+  addFinishCallback(&SoDialogCheckBox::finishCB3D);
+  change3DLabel();
+  change3DState();
+  change3DEnable();
+  setBuilt3D(1);
+}
+
+void SoDialogCheckBox::update3DCheckBox()
+{
+  const int32_t w = width.getValue();
+  int32_t bodyWidth = w - 6;
+  const int32_t bodyHeight = height.getValue() - 6;
+  int32_t start = 3;
+  if (labelVisibility.getValue()) {
+    start += 2 + labelSize[0];
+    bodyWidth -= labelSize[0] + 2;
+  }
+  const float halfBody = bodyWidth / 2.0f;
+  frameTranslation->translation.setValue(start + halfBody - w / 2.0f, 0.0f, 0.0f);
+  frameScale->scaleFactor.setValue(static_cast<float>(bodyWidth), static_cast<float>(bodyHeight), 1.0f);
+  undoTransformMatrix(frameSep.getValue(), frameTransform);
+  // A mark 14 wide, 10 in from the frame's left; the text 20 in.
+  stateTranslation->translation.setValue(-halfBody + 10, 0.0f, 0.0f);
+  if (onOffBBox.isEmpty())
+    onOffBBox = SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(onOffStringProp.getValue()), onOffText));
+  onOffTranslation->translation.setValue(-halfBody + 20, -(onOffBBox.getMax()[1] + onOffBBox.getMin()[1]) / 2, 0.0f);
+}
+
+void SoDialogCheckBox::update3DLabel()
+{
+  if (!isLabelCachedBBox())
+    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(labelProp.getValue()), labelText)));
+  const SbBox3f box = getLabelCachedBBox();
+  const int32_t x = SoControl3D::sideLabelX(labelSize[0], box.getMax()[0] - box.getMin()[0],
+                                            labelAlignment.getValue(), true);
+  labelTranslation->translation.setValue(x - width.getValue() / 2.0f, -(box.getMax()[1] + box.getMin()[1]) / 2,
+                                         0.0f);
+}
+
+void SoDialogCheckBox::change3DLabel()
+{
+  if (!labelText)
+    return;
+  SoControl3D::clearText(labelText);
+  setStringToText3(labelText, convertToCString(label.getValue(), nullptr));
+  SoFormwright::change3DLabel();
+  if (isBuilt3D())
+    update3DLabel();
+}
+
+void SoDialogCheckBox::change3DLabelAlignment()
+{
+  if (isBuilt3D())
+    update3DLabel();
+}
+
+void SoDialogCheckBox::change3DLabelVisibility()
+{
+  if (!isBuilt3D())
+    return;
+  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+  update3DCheckBox();
+}
+
+void SoDialogCheckBox::change3DState()
+{
+  if (!onOffText)
+    return;
+  setSwitchValue(stateSwitch.getValue(), state.getValue() != 0);
+  change3DOnOffString();
+}
+
+void SoDialogCheckBox::change3DOnOffString()
+{
+  if (!onOffText)
+    return;
+  const bool showsOff = !state.getValue() && offString.getValue().getLength() != 0;
+  SoControl3D::clearText(onOffText);
+  setStringToText3(onOffText, convertToCString(showsOff ? offString.getValue() : onString.getValue(), this));
+  onOffBBox.makeEmpty();
+  if (isBuilt3D())
+    update3DCheckBox();
+}
+
+void SoDialogCheckBox::finishCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoDialogCheckBox*>(dragger)->draggerFinishCallback3D();
+}
+
+void SoDialogCheckBox::draggerFinishCallback3D()
+{
+  const SoPath* path = getPressPath();
+  if (!path || !(path->containsNode(frameSep.getValue()) || path->containsNode(stateSep.getValue()) ||
+                 path->containsNode(onOffStringSep.getValue())))
+    return;
+  // A check box takes no keyboard: it ends whatever control had it.
+  set3DCurrentActive(this);
+  set3DInactive();
+  // A watched write: the mark and a 2D box follow through the sensor.
+  state = !state.getValue();
+  if (buildMode)
+    changeOnOffString();
+  if (follows3DForm())
+    change3DOnOffString();
+  applyDlgCptAuditor();
+}

@@ -474,11 +474,24 @@ void SoDialogComponent::update3DDialogComponent()
     undoTransformMatrix(get3DPart("mainCptSeparator"), cptTransform);
 }
 
+void SoDialogComponent::get3DComponentSize(SbVec2i32& size, SbVec2i32& offset)
+{
+  // A border of 3 on each side; a visible label keeps its own column.
+  const int32_t w = width.getValue();
+  size.setValue(w - 6, height.getValue() - 6);
+  int32_t start = 3;
+  if (labelVisibility.getValue()) {
+    start = labelSize[0] + 5;
+    size[0] -= labelSize[0] + 2;
+  }
+  offset.setValue(static_cast<int32_t>(start + size[0] / 2.0 - w / 2.0), 0);
+}
+
 void SoDialogComponent::getBoundingBox(SoGetBoundingBoxAction* action)
 {
   // Only a component that no build has placed yet builds itself here, at
-  // its parent's corner: one whose control has no look of its own in the
-  // scene yet is never marked built, and must keep the place its parent gave.
+  // its parent's corner: a control whose class draws nothing of its own in
+  // the scene is never marked built, and must keep the place its parent gave.
   if (!isBuilt3D() && !cptTranslation) {
     const SbBool notified = enableNotify(FALSE);
     // A window above that is not built yet must not follow field changes

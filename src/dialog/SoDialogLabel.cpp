@@ -1,16 +1,25 @@
 #include <SoDialogLabel.h>
 
 #include "Qt/SoDialogQLabel.h"
+#include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
 
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoText3.h>
+#include <Inventor/nodes/SoTranslation.h>
+
 #include <QBoxLayout>
+
+#include <string>
 
 SO_FORMWRIGHT_SOURCE(SoDialogLabel, SoDialogComponent, "DialogLabel")
 
 SoDialogLabel::SoDialogLabel()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogLabel);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelProp, SoGroup, SoGroup, labelSep, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
   // A left-aligned label is what a label is, so it is not written out.
   labelAlignment = LEFT;
@@ -114,5 +123,70 @@ void SoDialogLabel::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& m
     size[1] = labelPixelSize[1];
 }
 
-void SoDialogLabel::create3DDialogLabel() {}
-void SoDialogLabel::update3DLabel() {}
+void SoDialogLabel::create3DDialogLabel()
+{
+  loadFontProperties();
+  setPartAsDefault("labelProp", "DialogTextProperties", TRUE);
+  SoGroup* group = get3DPart("labelSep");
+  labelTranslation = new SoTranslation;
+  group->insertChild(labelTranslation, 0);
+  labelText = SoControl3D::newFrontText();
+  group->addChild(labelText);
+  change3DLabel();
+  change3DLabelAlignment();
+  change3DEnable();
+  setBuilt3D(1);
+}
+
+void SoDialogLabel::change3DLabel()
+{
+  if (!labelText)
+    return;
+  SoControl3D::clearText(labelText);
+  auto* props = static_cast<SoGroup*>(labelProp.getValue());
+  const float wrapWidth = static_cast<float>(width.getValue() - 6);
+  const std::string text = convertToCString(label.getValue(), nullptr).getString();
+  int line = 0;
+  size_t start = 0;
+  for (;;) {
+    const size_t end = text.find('\n', start);
+    const std::string piece = text.substr(start, end == std::string::npos ? std::string::npos : end - start);
+    insertTextTo3DText(SbString(piece.c_str()), labelText, line, 0);
+    line = wrap3DTextLine(labelText, line, wrapWidth, props, this) + 1;
+    if (end == std::string::npos)
+      break;
+    start = end + 1;
+  }
+  SoFormwright::change3DLabel();
+  if (isBuilt3D())
+    update3DLabel();
+}
+
+void SoDialogLabel::change3DLabelAlignment()
+{
+  if (!labelText)
+    return;
+  const int alignment = labelAlignment.getValue();
+  labelText->justification = alignment == CENTER  ? SoText3::CENTER
+                             : alignment == RIGHT ? SoText3::RIGHT
+                                                  : SoText3::LEFT;
+  if (isBuilt3D())
+    update3DLabel();
+}
+
+void SoDialogLabel::update3DLabel()
+{
+  if (!isLabelCachedBBox())
+    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(labelProp.getValue()), labelText)));
+  const SbBox3f box = getLabelCachedBBox();
+  const float w = static_cast<float>(width.getValue());
+  float x = -(box.getMax()[0] + box.getMin()[0]) / 2;
+  if (labelAlignment.getValue() == LEFT)
+    x = 3 - w / 2;
+  else if (labelAlignment.getValue() == RIGHT)
+    // The right end of the text, which right justification puts at its
+    // origin, goes 3 inside the right edge.
+    x = w / 2 - 3 - box.getMax()[0];
+  labelTranslation->translation.setValue(static_cast<float>(static_cast<int32_t>(x)),
+                                         -(box.getMax()[1] + box.getMin()[1]) / 2, 0.0f);
+}

@@ -3,8 +3,18 @@
 #include <SoDialogPushButtonAuditor.h>
 
 #include "Qt/SoDialogQPushButton.h"
+#include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
+
+#include <Inventor/SoPath.h>
+#include <Inventor/errors/SoDebugError.h>
+#include <Inventor/nodes/SoScale.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoText3.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
 
 #include <QBoxLayout>
 
@@ -14,7 +24,17 @@ SoDialogPushButton::SoDialogPushButton()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogPushButton);
   SO_FORMWRIGHT_ADD_FIELD(buttonLabel, "");
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelSwitch, SoSwitch, SoSwitch, labelSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelProp, SoGroup, SoGroup, labelSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSwitch, SoSwitch, SoSwitch, frameSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(released, SoGroup, SoGroup, frameSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(pressed, SoGroup, SoGroup, frameSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(buttonLabelSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(buttonLabelProp, SoGroup, SoGroup, buttonLabelSep, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
+  buttonLabelBBox.makeEmpty();
 }
 
 SoDialogPushButton::~SoDialogPushButton()
@@ -167,8 +187,169 @@ void SoDialogPushButton::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i
     size[1] = buttonPixelSize[1];
 }
 
-void SoDialogPushButton::create3DDialogPushButton() {}
-void SoDialogPushButton::update3DButton() {}
-void SoDialogPushButton::update3DLabel() {}
-void SoDialogPushButton::change3DButtonLabel() {}
-void SoDialogPushButton::change3DButtonState(int) {}
+void SoDialogPushButton::create3DDialogPushButton()
+{
+  loadFontProperties();
+  loadSkinOnce();
+  setPartAsDefault("released", "DialogPushButtonReleased", TRUE);
+  setPartAsDefault("pressed", "DialogPushButtonPressed", TRUE);
+  setPartAsDefault("labelProp", "DialogTextProperties", TRUE);
+  setPartAsDefault("buttonLabelProp", "DialogTextProperties", TRUE);
+
+  SoGroup* switchNode = get3DPart("geomSwitch");
+  SoGroup* labelGroup = get3DPart("labelSwitch");
+  SoGroup* frameGroup = get3DPart("frameSep");
+  SoGroup* captionGroup = get3DPart("buttonLabelSep");
+  labelTranslation = new SoTranslation;
+  labelGroup->insertChild(labelTranslation, 0);
+  labelText = SoControl3D::newFrontText();
+  labelGroup->addChild(labelText);
+  frameScale = new SoScale;
+  frameGroup->insertChild(frameScale, 0);
+  frameTranslation = new SoTranslation;
+  switchNode->insertChild(frameTranslation, switchNode->findChild(frameGroup));
+  // The caption stands on the block's top, which sinks when pressed.
+  frameTransform = new SoTransform;
+  switchNode->insertChild(frameTransform, switchNode->findChild(captionGroup));
+  buttonLabelTranslation = new SoTranslation;
+  captionGroup->insertChild(buttonLabelTranslation, 0);
+  buttonLabelText = SoControl3D::newFrontText();
+  captionGroup->addChild(buttonLabelText);
+  setSwitchValue(frameSwitch.getValue(), 0);
+  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+
+  addStartCallback(&SoDialogPushButton::startCB3D);
+  addFinishCallback(&SoDialogPushButton::finishCB3D);
+  change3DLabel();
+  change3DButtonLabel();
+  change3DEnable();
+  setBuilt3D(1);
+}
+
+void SoDialogPushButton::update3DButton()
+{
+  SbVec2i32 size, offset;
+  get3DComponentSize(size, offset);
+  frameTranslation->translation.setValue(static_cast<float>(offset[0]), static_cast<float>(offset[1]), 0.0f);
+  frameScale->scaleFactor.setValue(static_cast<float>(size[0]), static_cast<float>(size[1]), 1.0f);
+  if (buttonLabelBBox.isEmpty())
+    buttonLabelBBox = SoControl3D::finiteBox(
+      measure3DText(static_cast<SoGroup*>(buttonLabelProp.getValue()), buttonLabelText));
+  // Centred by arithmetic: the caption stays left-justified.
+  const SbVec3f& min = buttonLabelBBox.getMin();
+  const SbVec3f& max = buttonLabelBBox.getMax();
+  buttonLabelTranslation->translation.setValue(-(max[0] - min[0]) / 2, -(max[1] + min[1]) / 2, 0.0f);
+  undoTransformMatrix(frameSep.getValue(), frameTransform);
+}
+
+void SoDialogPushButton::update3DLabel()
+{
+  if (!isLabelCachedBBox())
+    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(labelProp.getValue()), labelText)));
+  const SbBox3f box = getLabelCachedBBox();
+  const int32_t x = SoControl3D::sideLabelX(labelSize[0], box.getMax()[0] - box.getMin()[0],
+                                            labelAlignment.getValue(), false);
+  labelTranslation->translation.setValue(x - width.getValue() / 2.0f, -(box.getMax()[1] + box.getMin()[1]) / 2,
+                                         0.0f);
+}
+
+void SoDialogPushButton::change3DLabel()
+{
+  if (!labelText)
+    return;
+  SoControl3D::clearText(labelText);
+  setStringToText3(labelText, convertToCString(label.getValue(), this));
+  SoFormwright::change3DLabel();
+  if (isBuilt3D())
+    update3DLabel();
+}
+
+void SoDialogPushButton::change3DLabelAlignment()
+{
+  if (isBuilt3D())
+    update3DLabel();
+}
+
+void SoDialogPushButton::change3DLabelVisibility()
+{
+  if (!isBuilt3D())
+    return;
+  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+  update3DButton();
+}
+
+void SoDialogPushButton::change3DButtonLabel()
+{
+  if (!buttonLabelText)
+    return;
+  SoControl3D::clearText(buttonLabelText);
+  setStringToText3(buttonLabelText, convertToCString(buttonLabel.getValue(), this));
+  buttonLabelBBox.makeEmpty();
+  if (isBuilt3D())
+    update3DButton();
+}
+
+void SoDialogPushButton::change3DButtonState(int pressedNow)
+{
+  if (!frameTransform)
+    return;
+  setSwitchValue(frameSwitch.getValue(), pressedNow != 0);
+  undoTransformMatrix(frameSep.getValue(), frameTransform);
+}
+
+void SoDialogPushButton::set3DPressedGeometry(SoNode* geometry)
+{
+  auto* looks = static_cast<SoSwitch*>(frameSwitch.getValue());
+  if (!geometry || !looks || looks->getNumChildren() < 2) {
+    SoDebugError::post("SoDialogPushButton::set3DPressedGeometry", "no geometry, or the button is not built in 3D");
+    return;
+  }
+  looks->replaceChild(0, geometry);
+}
+
+void SoDialogPushButton::set3DReleasedGeometry(SoNode* geometry)
+{
+  auto* looks = static_cast<SoSwitch*>(frameSwitch.getValue());
+  if (!geometry || !looks || looks->getNumChildren() < 2) {
+    SoDebugError::post("SoDialogPushButton::set3DReleasedGeometry", "no geometry, or the button is not built in 3D");
+    return;
+  }
+  looks->replaceChild(1, geometry);
+}
+
+bool SoDialogPushButton::pressHitsButton(const SoPath* path) const
+{
+  return path && (path->containsNode(frameSep.getValue()) || path->containsNode(buttonLabelSep.getValue()));
+}
+
+void SoDialogPushButton::startCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoDialogPushButton*>(dragger)->draggerStartCallback3D();
+}
+
+void SoDialogPushButton::finishCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoDialogPushButton*>(dragger)->draggerFinishCallback3D();
+}
+
+void SoDialogPushButton::draggerStartCallback3D()
+{
+  if (!pressHitsButton(getPickPath()))
+    return;
+  set3DCurrentActive(this);
+  change3DButtonState(1);
+  if (buildMode)
+    changeButtonState(1);
+}
+
+void SoDialogPushButton::draggerFinishCallback3D()
+{
+  // The toolkit has forgotten the pick by now: the press's copy tells.
+  if (!pressHitsButton(getPressPath()))
+    return;
+  set3DInactive();
+  change3DButtonState(0);
+  if (buildMode)
+    changeButtonState(0);
+  applyDlgCptAuditor();
+}

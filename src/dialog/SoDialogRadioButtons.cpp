@@ -1,8 +1,20 @@
 #include <SoDialogRadioButtons.h>
 
+#include <SoDialogGroup.h>
+#include <SoTopLevelDialog.h>
+
 #include "Qt/SoDialogQRadioButtons.h"
+#include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
+
+#include <Inventor/SoPath.h>
+#include <Inventor/nodes/SoScale.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoText3.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
 
 #include <QBoxLayout>
 #include <QRadioButton>
@@ -14,10 +26,31 @@ SO_FORMWRIGHT_SOURCE(SoDialogRadioButtons, SoDialogChoice, "DialogRadioButtons")
 SoDialogRadioButtons::SoDialogRadioButtons()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogRadioButtons);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frame, SoGroup, SoGroup, frameSep, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelSwitch, SoSwitch, SoSwitch, labelSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(labelProp, SoGroup, SoGroup, labelSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(itemsSep, SoSwitch, SoSwitch, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(itemSep, SoSeparator, SoSeparator, itemsSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(itemFrameSep, SoSeparator, SoSeparator, itemSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(itemFrame, SoGroup, SoGroup, itemFrameSep, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(itemBtnSep, SoSeparator, SoSeparator, itemSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(itemBtnSwtch, SoSwitch, SoSwitch, itemBtnSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(stateOff, SoGroup, SoGroup, itemBtnSwtch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(stateOn, SoGroup, SoGroup, itemBtnSwtch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(itemTextSep, SoSeparator, SoSeparator, itemSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(itemTextProp, SoGroup, SoGroup, itemTextSep, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
+  itemBBox.makeEmpty();
 }
 
-SoDialogRadioButtons::~SoDialogRadioButtons() = default;
+SoDialogRadioButtons::~SoDialogRadioButtons()
+{
+  // The step stands in the scene only between items: the node keeps it.
+  if (itemStepTranslation)
+    itemStepTranslation->unref();
+}
 
 SoDialogQRadioButtons* SoDialogRadioButtons::bridge() const
 {
@@ -27,7 +60,12 @@ SoDialogQRadioButtons* SoDialogRadioButtons::bridge() const
 void SoDialogRadioButtons::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
   SoDialogChoice::buildWidget(parent, useSize, size, mode);
-  computeNewButtonsHeight(size);
+  // A build in the scene is handed its place, not its size: the height to
+  // share is the one just negotiated.
+  SbVec2i32 shared = size;
+  if (mode == 0)
+    shared.setValue(width.getValue(), height.getValue());
+  computeNewButtonsHeight(shared);
   if (mode != 0) {
     if (!existWidget(labelWidget))
       createLabelWidget();
@@ -37,6 +75,7 @@ void SoDialogRadioButtons::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVe
     if (!isBuilt3D())
       create3DDialogRadioButtons();
     update3DRadioButtons();
+    update3DLabel();
   }
   makeFieldSensor(itemsSensor, items);
   makeFieldSensor(selectedItemSensor, selectedItem);
@@ -250,5 +289,239 @@ void SoDialogRadioButtons::computeNewButtonsHeight(SbVec2i32& size)
   }
 }
 
-void SoDialogRadioButtons::create3DDialogRadioButtons() {}
-void SoDialogRadioButtons::update3DRadioButtons() {}
+void SoDialogRadioButtons::create3DDialogRadioButtons()
+{
+  loadFontProperties();
+  loadSkinOnce();
+  setPartAsDefault("frame", "DialogRadioButtonsFrame", TRUE);
+  setPartAsDefault("itemFrame", "DialogRadioButtonsItemFrame", TRUE);
+  setPartAsDefault("stateOff", "DialogRadioButtonsStateOff", TRUE);
+  setPartAsDefault("stateOn", "DialogRadioButtonsStateOn", TRUE);
+  setPartAsDefault("labelProp", "DialogTextProperties", TRUE);
+  setPartAsDefault("itemTextProp", "DialogTextProperties", TRUE);
+
+  SoGroup* switchNode = get3DPart("geomSwitch");
+  frameScale = new SoScale;
+  get3DPart("frameSep")->insertChild(frameScale, 0);
+  // The title and the items lie on the frame.
+  frameTransform = new SoTransform;
+  switchNode->insertChild(frameTransform, switchNode->findChild(get3DPart("labelSep")));
+  SoGroup* labelGroup = get3DPart("labelSwitch");
+  labelTranslation = new SoTranslation;
+  labelGroup->insertChild(labelTranslation, 0);
+  labelText = SoControl3D::newFrontText();
+  labelGroup->addChild(labelText);
+  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+
+  // The first item, from the catalog parts.
+  SoGroup* firstItem = get3DPart("itemSep");
+  get3DPart("itemFrameSep");
+  SoGroup* buttonGroup = get3DPart("itemBtnSep");
+  SoGroup* textGroup = get3DPart("itemTextSep");
+  itemsTranslation = new SoTranslation;
+  get3DPart("itemsSep")->insertChild(itemsTranslation, 0);
+  itemStepTranslation = new SoTranslation;
+  itemStepTranslation->ref();
+  itemScale = new SoScale;
+  get3DPart("itemFrameSep")->insertChild(itemScale, 0);
+  itemTransform = new SoTransform;
+  firstItem->insertChild(itemTransform, firstItem->findChild(buttonGroup));
+  btnScale = new SoScale;
+  buttonGroup->insertChild(btnScale, 0);
+  btnTranslation = new SoTranslation;
+  buttonGroup->insertChild(btnTranslation, 0);
+  SoGroup* firstSwitch = get3DPart("itemBtnSwtch");
+  setSwitchValue(firstSwitch, 0);
+  textTranslation = new SoTranslation;
+  textGroup->insertChild(textTranslation, 0);
+  SoText3* firstText = SoControl3D::newFrontText();
+  textGroup->addChild(firstText);
+  itemSeparators.append(firstItem);
+  itemSwitches.append(firstSwitch);
+  itemTexts.append(firstText);
+
+  addFinishCallback(&SoDialogRadioButtons::finishCB3D);
+  change3DLabel();
+  change3DItems();
+  change3DEnable();
+  setBuilt3D(1);
+}
+
+void SoDialogRadioButtons::add3DItem(int index)
+{
+  auto* itemsGroup = static_cast<SoGroup*>(itemsSep.getValue());
+  if (index > 0)
+    itemsGroup->addChild(itemStepTranslation);
+  auto* item = new SoSeparator;
+  item->addChild(itemFrameSep.getValue());
+  item->addChild(itemTransform);
+  auto* buttonGroup = new SoSeparator;
+  buttonGroup->addChild(btnTranslation);
+  buttonGroup->addChild(btnScale);
+  auto* looks = new SoSwitch;
+  looks->addChild(stateOff.getValue());
+  looks->addChild(stateOn.getValue());
+  looks->whichChild = 0;
+  buttonGroup->addChild(looks);
+  item->addChild(buttonGroup);
+  auto* textGroup = new SoSeparator;
+  textGroup->addChild(textTranslation);
+  textGroup->addChild(itemTextProp.getValue());
+  SoText3* text = SoControl3D::newFrontText();
+  textGroup->addChild(text);
+  item->addChild(textGroup);
+  itemsGroup->addChild(item);
+  itemSeparators.append(item);
+  itemSwitches.append(looks);
+  itemTexts.append(text);
+}
+
+void SoDialogRadioButtons::change3DItems()
+{
+  auto* itemsGroup = static_cast<SoGroup*>(itemsSep.getValue());
+  if (!itemsGroup || !itemStepTranslation)
+    return;
+  fixItemsNumber();
+  const int oldCount = itemSeparators.getLength();
+  const int count = getRealItemCount();
+  for (int i = 0; i < count; ++i) {
+    if (i >= oldCount)
+      add3DItem(i);
+    auto* text = static_cast<SoText3*>(itemTexts[i]);
+    SoControl3D::clearText(text);
+    setStringToText3(text, items[i]);
+  }
+  // Each item but the first goes with the step above it.
+  for (int i = oldCount; i > count; --i) {
+    itemSeparators.remove(i - 1);
+    itemSwitches.remove(i - 1);
+    itemTexts.remove(i - 1);
+    itemsGroup->removeChild(itemsGroup->getNumChildren() - 1);
+    if (i > 1)
+      itemsGroup->removeChild(itemsGroup->getNumChildren() - 1);
+  }
+  setSwitchValue(itemsGroup, count == 0 ? SO_SWITCH_NONE : SO_SWITCH_ALL);
+  itemBBox.makeEmpty();
+  // A new count of items needs a new share of the height.
+  if (count != oldCount && parentNode && isBuilt3D()) {
+    resetSize();
+    if (parentNode->isOfType(SoTopLevelDialog::getClassTypeId()))
+      static_cast<SoTopLevelDialog*>(parentNode)->updateAfterSceneGraphChange();
+    else if (parentNode->isOfType(SoDialogGroup::getClassTypeId()))
+      static_cast<SoDialogGroup*>(parentNode)->updateAfterSceneGraphChange();
+  }
+  if (buildMode)
+    changeSelectedItem();
+  if (follows3DForm())
+    change3DSelectedItem();
+}
+
+void SoDialogRadioButtons::change3DSelectedItem()
+{
+  const auto inRange = [this](int32_t index) { return index >= 0 && index < itemCount; };
+  int32_t index = selectedItem.getValue();
+  if (!inRange(index)) {
+    index = inRange(lastSelectedItem) ? lastSelectedItem : 0;
+    setFieldUnwatched(selectedItem, selectedItemSensor, index);
+  }
+  lastSelectedItem = index;
+  for (int i = 0; i < itemSwitches.getLength(); ++i)
+    setSwitchValue(itemSwitches[i], i == index);
+}
+
+void SoDialogRadioButtons::update3DRadioButtons()
+{
+  if (!buttonSizes || numButtonSizes == 0)
+    return;
+  // All items get the mean height.
+  float itemHeight = 0.0f;
+  for (int i = 0; i < numButtonSizes; ++i)
+    itemHeight += static_cast<float>(buttonSizes[i][1]);
+  itemHeight /= static_cast<float>(numButtonSizes);
+  const float itemWidth = static_cast<float>(width.getValue() - 20);
+  itemStepTranslation->translation.setValue(0.0f, -itemHeight, 0.0f);
+  // The first item's top lies 20 below the frame's top, under the title.
+  itemsTranslation->translation.setValue(0.0f, (height.getValue() - 6) / 2.0f - 20 - itemHeight / 2, 0.0f);
+  itemScale->scaleFactor.setValue(itemWidth, itemHeight, 1.0f);
+  undoTransformMatrix(itemFrameSep.getValue(), itemTransform);
+  btnScale->scaleFactor.setValue(12.0f, 12.0f, 1.0f);
+  btnTranslation->translation.setValue(-itemWidth / 2 + 14, 0.0f, 0.0f);
+  if (itemBBox.isEmpty() && itemTexts.getLength() > 0)
+    itemBBox = SoControl3D::finiteBox(
+      measure3DText(static_cast<SoGroup*>(itemTextProp.getValue()), static_cast<SoText3*>(itemTexts[0])));
+  textTranslation->translation.setValue(-itemWidth / 2 + 24, -(itemBBox.getMax()[1] + itemBBox.getMin()[1]) / 2,
+                                        0.0f);
+}
+
+void SoDialogRadioButtons::update3DLabel()
+{
+  frameScale->scaleFactor.setValue(static_cast<float>(width.getValue() - 6), static_cast<float>(height.getValue() - 6),
+                                   1.0f);
+  change3DLabelAlignment();
+  undoTransformMatrix(frameSep.getValue(), frameTransform);
+}
+
+void SoDialogRadioButtons::change3DLabelAlignment()
+{
+  if (!labelText)
+    return;
+  if (!isLabelCachedBBox())
+    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(labelProp.getValue()), labelText)));
+  const SbBox3f box = getLabelCachedBBox();
+  const float textWidth = box.getMax()[0] - box.getMin()[0];
+  const float halfFrame = (width.getValue() - 6) / 2.0f;
+  float x = -textWidth / 2;
+  if (labelAlignment.getValue() == LEFT)
+    x = 8 - halfFrame;
+  else if (labelAlignment.getValue() == RIGHT)
+    x = halfFrame - textWidth - 8;
+  // The title runs across the top of the frame, 12 below its edge.
+  labelTranslation->translation.setValue(static_cast<float>(static_cast<int32_t>(x)),
+                                         (height.getValue() - 6) / 2.0f - 12 - (box.getMax()[1] + box.getMin()[1]) / 2,
+                                         0.0f);
+}
+
+void SoDialogRadioButtons::change3DLabel()
+{
+  if (!labelText)
+    return;
+  SoControl3D::clearText(labelText);
+  setStringToText3(labelText, convertToCString(label.getValue(), nullptr));
+  SoFormwright::change3DLabel();
+  change3DLabelAlignment();
+}
+
+void SoDialogRadioButtons::change3DLabelVisibility()
+{
+  if (!isBuilt3D())
+    return;
+  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+  update3DLabel();
+}
+
+void SoDialogRadioButtons::finishCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoDialogRadioButtons*>(dragger)->draggerFinishCallback3D();
+}
+
+void SoDialogRadioButtons::draggerFinishCallback3D()
+{
+  set3DCurrentActive(this);
+  set3DInactive();
+  const SoPath* path = getPressPath();
+  int chosen = -1;
+  for (int i = 0; path && i < itemSeparators.getLength(); ++i)
+    if (path->containsNode(itemSeparators[i]))
+      chosen = i;
+  // A press beside the items chooses nothing.
+  if (chosen < 0)
+    return;
+  if (chosen != selectedItem.getValue()) {
+    setFieldUnwatched(selectedItem, selectedItemSensor, chosen);
+    if (buildMode)
+      changeSelectedItem();
+    if (follows3DForm())
+      change3DSelectedItem();
+  }
+  applyDlgCptAuditor();
+}

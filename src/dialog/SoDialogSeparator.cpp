@@ -4,6 +4,10 @@
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
 
+#include <Inventor/nodes/SoScale.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSwitch.h>
+
 #include <QBoxLayout>
 
 SO_FORMWRIGHT_SOURCE(SoDialogSeparator, SoDialogComponent, "DialogSeparator")
@@ -11,6 +15,10 @@ SO_FORMWRIGHT_SOURCE(SoDialogSeparator, SoDialogComponent, "DialogSeparator")
 SoDialogSeparator::SoDialogSeparator()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogSeparator);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSwitch, SoSwitch, SoSwitch, frameSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(vFrame, SoGroup, SoGroup, frameSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(hFrame, SoGroup, SoGroup, frameSwitch, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
@@ -88,5 +96,21 @@ void SoDialogSeparator::getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i3
   }
 }
 
-void SoDialogSeparator::create3DSeparator() {}
-void SoDialogSeparator::update3DSeparator() {}
+void SoDialogSeparator::create3DSeparator()
+{
+  loadFontProperties();
+  loadSkinOnce();
+  setPartAsDefault("vFrame", "DialogSeparatorVertical", TRUE);
+  setPartAsDefault("hFrame", "DialogSeparatorHorizontal", TRUE);
+  frameScale = new SoScale;
+  get3DPart("frameSep")->insertChild(frameScale, 0);
+  change3DEnable();
+  setBuilt3D(1);
+}
+
+void SoDialogSeparator::update3DSeparator()
+{
+  frameScale->scaleFactor.setValue(static_cast<float>(width.getValue() - 6), static_cast<float>(height.getValue() - 6),
+                                   1.0f);
+  setSwitchValue(frameSwitch.getValue(), orientationHorz != 0);
+}
