@@ -184,9 +184,7 @@ void SoDialogLabel::update3DLabel()
   if (labelAlignment.getValue() == LEFT)
     x = 3 - w / 2;
   else if (labelAlignment.getValue() == RIGHT)
-    // The right end of the text, which right justification puts at its
-    // origin, goes 3 inside the right edge.
-    x = w / 2 - 3 - box.getMax()[0];
+    x = w / 2 - 3 - (box.getMax()[0] - box.getMin()[0]);
   labelTranslation->translation.setValue(static_cast<float>(static_cast<int32_t>(x)),
                                          -(box.getMax()[1] + box.getMin()[1]) / 2, 0.0f);
 }

@@ -440,8 +440,8 @@ void SoDialogRadioButtons::update3DRadioButtons()
   itemHeight /= static_cast<float>(numButtonSizes);
   const float itemWidth = static_cast<float>(width.getValue() - 20);
   itemStepTranslation->translation.setValue(0.0f, -itemHeight, 0.0f);
-  // The first item's top lies 20 below the frame's top, under the title.
-  itemsTranslation->translation.setValue(0.0f, (height.getValue() - 6) / 2.0f - 20 - itemHeight / 2, 0.0f);
+  // The first item's centre: 20 below the frame's top, plus half an item.
+  itemsTranslation->translation.setValue(0.0f, (height.getValue() - 6) / 2.0f - 20 + itemHeight / 2, 0.0f);
   itemScale->scaleFactor.setValue(itemWidth, itemHeight, 1.0f);
   undoTransformMatrix(itemFrameSep.getValue(), itemTransform);
   btnScale->scaleFactor.setValue(12.0f, 12.0f, 1.0f);
@@ -509,13 +509,12 @@ void SoDialogRadioButtons::draggerFinishCallback3D()
   set3DCurrentActive(this);
   set3DInactive();
   const SoPath* path = getPressPath();
-  int chosen = -1;
+  // A press beside the items keeps the choice; the auditor hears of the
+  // press all the same.
+  int chosen = selectedItem.getValue();
   for (int i = 0; path && i < itemSeparators.getLength(); ++i)
     if (path->containsNode(itemSeparators[i]))
       chosen = i;
-  // A press beside the items chooses nothing.
-  if (chosen < 0)
-    return;
   if (chosen != selectedItem.getValue()) {
     setFieldUnwatched(selectedItem, selectedItemSensor, chosen);
     if (buildMode)
