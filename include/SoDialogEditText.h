@@ -204,7 +204,6 @@ private:
   SbVec3f startCursorH{0.0f, 0.0f, 0.0f};
   // Where the pointer last met a thumb's line, kept for a ray that misses it.
   SbVec3f lastProjected{0.0f, 0.0f, 0.0f};
-  int textLength = 0;
   // The displayed line that takes new text, and its length when the
   // display was last rebuilt.
   int lastLine = 0;

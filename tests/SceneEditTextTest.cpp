@@ -33,13 +33,14 @@ struct EditScene {
   int untakenKeys = 0;
   SbVec3f editAt, otherAt;
 
-  explicit EditScene(bool trigOnEnter, bool multiLine = false)
+  explicit EditScene(bool trigOnEnter, bool multiLine = false, int width = 120)
   {
     auto* row = makeNode<SoRowDialog>();
     edit->trigOnEnter = trigOnEnter;
     edit->multiLine = multiLine;
     edit->labelVisibility = FALSE;
-    edit->width = 120;
+    edit->width = width;
+    other->width = width;
     edit->height = multiLine ? 80 : 30;
     other->editable = FALSE;
     row->addChild(edit);
@@ -159,6 +160,20 @@ TEST(SceneEditText, aLongLineWrapsRepeatingTheCharacterThatOverflows)
   at.type({SoKeyboardEvent::Z});
   EXPECT_EQ(std::string(lines[lines.getNum() - 1].getString()), "z") << "Shift+Return opens a line";
   EXPECT_EQ(at.text(), typed + "\nz");
+}
+
+TEST(SceneEditText, aBoxNarrowerThanOneCharacterTakesOneCharacterPerLine)
+{
+  EditScene at(true, true, 30);
+  const float room = static_cast<float>(at.edit->width.getValue() - 6 - 14 - 8);
+  ASSERT_GT(measuredWidth("m"), room);
+  // The box lies left of its bar, 7 left of the control's centre.
+  at.scene.click(at.editAt[0] - 7, at.editAt[1]);
+  at.type({SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::M, SoKeyboardEvent::M, SoKeyboardEvent::M});
+  EXPECT_EQ(at.text(), "mmm") << "a backspace in an empty box leaves it empty";
+  const SoMFString& lines = shownText(at.edit)->string;
+  ASSERT_EQ(lines.getNum(), 3);
+  EXPECT_EQ(std::string(lines[2].getString()), "m");
 }
 
 } // namespace

@@ -674,7 +674,6 @@ void SoDialogEditText::change3DEditText()
   } else {
     lastColumn = textNode->string[lastLine].getLength();
   }
-  textLength = editText.getValue().getLength();
   seal3DTail();
   textBBox.makeEmpty();
   if (isBuilt3D())
