@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRect>
+#include <QSignalBlocker>
 #include <QTextEdit>
 #include <QTextOption>
 
@@ -72,6 +73,12 @@ void SoDialogQEditText::setText(const QString& text)
     m_textEdit->setPlainText(text);
   else
     m_lineEdit->setText(text);
+}
+
+void SoDialogQEditText::setTextQuietly(const QString& text)
+{
+  const QSignalBlocker blocker(entry());
+  setText(text);
 }
 
 void SoDialogQEditText::setReadOnly(bool readOnly)

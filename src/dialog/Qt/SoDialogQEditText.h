@@ -23,6 +23,8 @@ public:
   void setLabelPlace(const QRect& place);
   QString getText() const;
   void setText(const QString& text);
+  // Shows a text that the node already holds, without telling it back.
+  void setTextQuietly(const QString& text);
   void setReadOnly(bool readOnly);
   // Only an entry of several lines wraps.
   void setWordWrap(bool wrap);
