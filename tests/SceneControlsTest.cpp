@@ -34,6 +34,15 @@ struct CheckBox : SoDialogCheckBox {
 };
 struct Radio : SoDialogRadioButtons {
   using SoDialogRadioButtons::itemsSep;
+  using SoDialogRadioButtons::itemSwitches;
+  // Which item shows the chosen look.
+  int shownChoice() const
+  {
+    for (int i = 0; i < itemSwitches.getLength(); ++i)
+      if (static_cast<SoSwitch*>(itemSwitches[i])->whichChild.getValue() == 1)
+        return i;
+    return -1;
+  }
 };
 
 struct Heard : SoDialogAuditor {
@@ -176,8 +185,10 @@ TEST_F(SceneControls, radioButtonsChooseAtReleaseAndFollowTheirItems)
   const SbVec2f c = centre(radio);
   const auto itemY = [&](int i) { return c[1] + 42 - 20 + 10 - 20 * i; };
 
+  EXPECT_EQ(radio->shownChoice(), 0) << "the first item is chosen from the start";
   scene.click(c[0], itemY(2));
   EXPECT_EQ(radio->selectedItem.getValue(), 2);
+  EXPECT_EQ(radio->shownChoice(), 2);
   scene.click(c[0], itemY(2));
   scene.click(c[0] - 95, itemY(0));
   EXPECT_EQ(heard.events, (std::vector<std::string>{"item 2", "item 2", "item 2"}))

@@ -345,6 +345,8 @@ void SoDialogRadioButtons::create3DDialogRadioButtons()
   change3DItems();
   change3DEnable();
   setBuilt3D(1);
+  // The items were made before the form counted as built.
+  change3DSelectedItem();
 }
 
 void SoDialogRadioButtons::add3DItem(int index)
