@@ -1,6 +1,7 @@
 #include "ControlTestSupport.h"
 #include "SceneTestSupport.h"
 
+#include <SoColumnDialog.h>
 #include <SoDialogCheckBox.h>
 #include <SoDialogCheckBoxLauncher.h>
 #include <SoDialogComponent.h>
@@ -322,6 +323,22 @@ TEST(SceneLaunchers, buildTheirDialogsInTheSceneAndShowThemThere)
   entry->menuEvent(nullptr, 0);
   EXPECT_FALSE(shown(2));
   SoFormMode::setSceneForm(false);
+}
+
+// Deep enough that a walk of all the levels below at every level stalls the
+// suite, and light enough for the memory checker.
+TEST(ScenePlacement, deeplyNestedColumnsBuildInTheScene)
+{
+  SoDialogComponent* nested = makeFixedLeaf();
+  for (int level = 0; level < 600; ++level) {
+    auto* column = new SoColumnDialog;
+    column->addChild(nested);
+    nested = column;
+  }
+  auto* dialog = makeNode<SoTopLevelDialog>();
+  dialog->addChild(nested);
+  buildInScene(dialog);
+  EXPECT_EQ(dialog->width.getValue(), 100 + 600 * 6) << "each column's frame adds 6";
 }
 
 } // namespace

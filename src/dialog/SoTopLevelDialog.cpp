@@ -11,6 +11,7 @@
 #include "SoFormwrightChildren.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoQt.h"
+#include "SoScenePass.h"
 #include "SoSizeRules.h"
 
 #include <QBoxLayout>
@@ -118,6 +119,7 @@ void SoTopLevelDialog::buildDialog(QWidget* parent, int buildInside)
 
 void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
+  const SoScenePass pass(mode, true);
   SoFormwright::buildWidget(parent, useSize, size, mode);
   if (mode != 0 && !existWidget(baseWidget)) {
     createBaseWidget(parent);
