@@ -330,7 +330,7 @@ TEST(SceneLaunchers, buildTheirDialogsInTheSceneAndShowThemThere)
 TEST(ScenePlacement, deeplyNestedColumnsBuildInTheScene)
 {
   SoDialogComponent* nested = makeFixedLeaf();
-  for (int level = 0; level < 600; ++level) {
+  for (int level = 0; level < 400; ++level) {
     auto* column = new SoColumnDialog;
     column->addChild(nested);
     nested = column;
@@ -338,7 +338,7 @@ TEST(ScenePlacement, deeplyNestedColumnsBuildInTheScene)
   auto* dialog = makeNode<SoTopLevelDialog>();
   dialog->addChild(nested);
   buildInScene(dialog);
-  EXPECT_EQ(dialog->width.getValue(), 100 + 600 * 6) << "each column's frame adds 6";
+  EXPECT_EQ(dialog->width.getValue(), 100 + 400 * 6) << "each column's frame adds 6";
 }
 
 } // namespace
