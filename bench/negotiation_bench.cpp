@@ -1,10 +1,11 @@
 // Figures for the work a dialog costs: measuring labels, negotiating the
-// sizes of a large tree, and building its widgets.
+// sizes of a large tree, and building its widgets or its scene form.
 //   formwright-bench [--benchmark_filter=...]
 
 #include <SoColumnDialog.h>
 #include <SoDialogCheckBox.h>
 #include <SoDialogLabel.h>
+#include <SoFormMode.h>
 #include <SoRowDialog.h>
 #include <SoTopLevelDialog.h>
 
@@ -60,6 +61,40 @@ void buildDialog(benchmark::State& state)
   state.SetComplexityN(state.range(0));
 }
 BENCHMARK(buildDialog)->RangeMultiplier(4)->Range(4, 256)->Complexity()->Unit(benchmark::kMillisecond);
+
+// A window holding `depth` columns, each inside the one before, around one
+// label.
+SoTopLevelDialog* makeNestedColumns(int depth)
+{
+  SoDialogComponent* nested = new SoDialogLabel;
+  for (int level = 0; level < depth; ++level) {
+    auto* column = new SoColumnDialog;
+    column->addChild(nested);
+    nested = column;
+  }
+  auto* dialog = new SoTopLevelDialog;
+  dialog->ref();
+  dialog->addChild(nested);
+  return dialog;
+}
+
+// The scene form must stay linear in the depth of nesting.
+void buildNestedColumnsInScene(benchmark::State& state)
+{
+  SoFormMode::setSceneForm(true);
+  for (auto _ : state) {
+    state.PauseTiming();
+    SoTopLevelDialog* dialog = makeNestedColumns(static_cast<int>(state.range(0)));
+    state.ResumeTiming();
+    dialog->buildDialog(nullptr, 0);
+    state.PauseTiming();
+    dialog->unref();
+    state.ResumeTiming();
+  }
+  SoFormMode::setSceneForm(false);
+  state.SetComplexityN(state.range(0));
+}
+BENCHMARK(buildNestedColumnsInScene)->RangeMultiplier(4)->Range(64, 4096)->Complexity()->Unit(benchmark::kMillisecond);
 
 void rebuildAfterAddingAChild(benchmark::State& state)
 {

@@ -113,6 +113,15 @@ protected:
 
 private:
   void createGroupWidget();
+  // The group's default sizes, worked out once in each build of the scene
+  // form: every level above asks for them before the group is built.
+  void defaultSizeOfPass(SbVec2i32 defaults[3]);
+
+  // While a row or column makes its frame in the scene: its children are
+  // not built yet, and each shows itself when it is.
+  bool makingSceneFrame = false;
+  int defaultSizePass = 0;
+  SbVec2i32 passDefaults[3];
 
   friend class SoFormwrightChildren<SoDialogGroup, SoDialogComponent>;
   SoFormwrightChildren<SoDialogGroup, SoDialogComponent> childList() const;

@@ -1,8 +1,12 @@
 #include "ControlTestSupport.h"
 #include "SceneTestSupport.h"
 
+#include <SoColumnDialog.h>
 #include <SoDialogCheckBox.h>
+#include <SoDialogCheckBoxLauncher.h>
 #include <SoDialogComponent.h>
+#include <SoDialogPushButtonLauncher.h>
+#include <SoMenuCheckBoxLauncher.h>
 #include <SoRowDialog.h>
 
 #include <Inventor/actions/SoSearchAction.h>
@@ -249,5 +253,91 @@ TEST(ScenePlacement, aMeasuredRowKeepsItsChildrenOneBelowTheOther)
   other->unref();
 }
 
+// A window in the scene with one leaf of 101 by 30: its plate is 109 by 57,
+// and its children start 23 below its top.
+struct SceneWindow : testing::Test {
+  Scene scene;
+  SoTopLevelDialog* dialog = makeNode<SoTopLevelDialog>();
+  SoDialogComponent* leaf = makeFixedLeaf(101, 30);
+  SceneWindow() { dialog->addChild(leaf), scene.root->addChild(dialog); }
+};
+
+TEST_F(SceneWindow, aDisabledWindowTakesNoPickUntilEnabledAgain)
+{
+  dialog->enable = FALSE;
+  buildInScene(dialog);
+  EXPECT_EQ(scene.pickedNode(2.0f, -40.0f), nullptr);
+  dialog->enable = TRUE;
+  EXPECT_EQ(scene.pickedNode(2.0f, -40.0f), dialog);
+}
+
+TEST_F(SceneWindow, aCoupledStripMovedAndRestoredStandsWhereABuildPutsThePlate)
+{
+  dialog->independentMinimizedPosition = FALSE;
+  buildInScene(dialog);
+  dialog->minimized = TRUE;
+  dialog->minimized3DPosition.setValue(30.0f, 40.0f, 0.0f);
+  dialog->minimized = FALSE;
+  EXPECT_FLOAT_EQ(centreOf(dialog)[0], 30.0f + 109.0f / 2);
+}
+
+TEST_F(SceneWindow, aWindowBuiltByItsFirstMeasureFollowsChangesOfItsTree)
+{
+  dialog->windowResizedByChildren = TRUE;
+  SoDialogComponent* second = makeFixedLeaf(101, 30);
+  dialog->addChild(second);
+  centreOf(scene.root);
+  dialog->removeChild(leaf);
+  dialog->addChild(leaf);
+  EXPECT_FLOAT_EQ(centreOf(second)[1], -23.0f - 15);
+  EXPECT_FLOAT_EQ(centreOf(leaf)[1], -23.0f - 30 - 15);
+}
+
+// Launchers standing in the scene open plates at the dialogs' own places.
+TEST(SceneLaunchers, buildTheirDialogsInTheSceneAndShowThemThere)
+{
+  Scene scene;
+  SoTopLevelDialog* dialogs[3];
+  for (int i = 0; i < 3; ++i) {
+    dialogs[i] = new SoTopLevelDialog;
+    dialogs[i]->position3D.setValue(300.0f, 100.0f * i, 0.0f);
+    dialogs[i]->addChild(makeFixedLeaf());
+  }
+  const auto shown = [&](int i) { return scene.pickedNode(302.0f, -40.0f - 100 * i) == dialogs[i]; };
+  auto* button = new SoDialogPushButtonLauncher;
+  auto* box = new SoDialogCheckBoxLauncher;
+  auto* entry = new SoMenuCheckBoxLauncher;
+  button->addChild(dialogs[0]), box->addChild(dialogs[1]), entry->addChild(dialogs[2]);
+  box->state = TRUE;
+  SoFormMode::setSceneForm(true);
+  for (SoFormwright* launcher : std::initializer_list<SoFormwright*>{button, box, entry}) {
+    SbVec2i32 size(0, 0), place(0, 0);
+    launcher->buildWidget(nullptr, size, place, 0);
+    scene.root->addChild(launcher);
+  }
+  EXPECT_TRUE(dialogs[0]->isBuilt3D());
+  EXPECT_EQ(std::vector<bool>({shown(0), shown(1), shown(2)}), std::vector<bool>({false, true, false}));
+  button->eventNotify(0, 0), box->eventNotify(0, 0), entry->menuEvent(nullptr, 0);
+  EXPECT_EQ(std::vector<bool>({shown(0), shown(1), shown(2)}), std::vector<bool>({true, false, true}));
+  entry->menuEvent(nullptr, 0);
+  EXPECT_FALSE(shown(2));
+  SoFormMode::setSceneForm(false);
+}
+
+// Deep enough that a walk of all the levels below at every level stalls the
+// suite, and light enough for the memory checker.
+TEST(ScenePlacement, deeplyNestedColumnsBuildInTheScene)
+{
+  SoDialogComponent* nested = makeFixedLeaf();
+  for (int level = 0; level < 400; ++level) {
+    auto* column = new SoColumnDialog;
+    column->addChild(nested);
+    nested = column;
+  }
+  auto* dialog = makeNode<SoTopLevelDialog>();
+  dialog->addChild(nested);
+  buildInScene(dialog);
+  EXPECT_EQ(dialog->width.getValue(), 100 + 400 * 6) << "each column's frame adds 6";
+}
 
 } // namespace

@@ -18,7 +18,8 @@ SoDialogCheckBoxLauncher::~SoDialogCheckBoxLauncher() = default;
 void SoDialogCheckBoxLauncher::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
   SoDialogCheckBox::buildWidget(parent, useSize, size, mode);
-  showDialogsAsChecked();
+  if (mode == 0 || buildMode)
+    showDialogsAsChecked();
 }
 
 void SoDialogCheckBoxLauncher::eventNotify(unsigned int event, unsigned long long value)
@@ -29,15 +30,10 @@ void SoDialogCheckBoxLauncher::eventNotify(unsigned int event, unsigned long lon
 
 void SoDialogCheckBoxLauncher::showDialogsAsChecked()
 {
-  if (!buildMode)
-    return;
   for (int i = 0; i < numChildren; ++i) {
     SoTopLevelDialog* dialog = childList().at(i);
     SoLauncherDialogs::build(dialog, this);
-    if (state.getValue())
-      dialog->show();
-    else
-      dialog->hide();
+    SoLauncherDialogs::show(dialog, state.getValue() != 0);
   }
 }
 

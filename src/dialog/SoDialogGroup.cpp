@@ -7,6 +7,7 @@
 #include "SoAuditorDispatch.h"
 #include "SoFormwrightChildren.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoScenePass.h"
 #include "SoSizeRules.h"
 
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
@@ -106,11 +107,22 @@ void SoDialogGroup::getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max)
 {
   SbVec2i32 defaults[3];
   if (needsDefaultSize()) {
-    getDefaultSize(defaults[0], defaults[1], defaults[2]);
+    defaultSizeOfPass(defaults);
     for (SbVec2i32& value : defaults)
       fixSizeWithBorder(value, 1);
   }
   getSizeFromFields(defaults, size, min, max);
+}
+
+void SoDialogGroup::defaultSizeOfPass(SbVec2i32 defaults[3])
+{
+  const int pass = SoScenePass::current();
+  if (pass == 0 || defaultSizePass != pass) {
+    getDefaultSize(passDefaults[0], passDefaults[1], passDefaults[2]);
+    defaultSizePass = pass;
+  }
+  for (int i = 0; i < 3; ++i)
+    defaults[i] = passDefaults[i];
 }
 
 void SoDialogGroup::setLabelSize(SbVec2i32& size)
@@ -213,6 +225,7 @@ void SoDialogGroup::stackedDefaultSize(int axis, int32_t spacing, SbVec2i32& siz
 void SoDialogGroup::buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode,
                                  QBoxLayout* (*makeLayout)(QWidget*), const char* layoutName, int32_t spacing)
 {
+  const SoScenePass pass(mode, false);
   if (sizeTable.sizeTableLength != numChildren)
     updateChildrenSizeDB();
   bool firstWidgetBuild = false;
@@ -232,14 +245,29 @@ void SoDialogGroup::buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32&
     }
     updateChildren();
   } else {
-    SoDialogGroup::buildWidget(parent, useSize, size, mode);
+    // Every change made while the group and what it holds are built would
+    // otherwise climb through all the levels above it: the group tells its
+    // parent once, when it stands.
+    const SbBool notified = enableNotify(FALSE);
     firstSceneBuild = !isBuilt3D();
+    makingSceneFrame = firstSceneBuild;
+    SoDialogGroup::buildWidget(parent, useSize, size, mode);
+    makingSceneFrame = false;
     update3DChildren();
     setBuilt3D(1);
+    enableNotify(notified);
+    if (notified)
+      touch();
   }
   if (firstWidgetBuild)
     changeWidgetEnable(enable.getValue());
-  if (firstSceneBuild)
+  // A group that is being built for the first time hands its state down
+  // through all it holds once its children stand: a child group in the same
+  // first build leaves that walk to it, or every level would walk the levels
+  // below it again.
+  const bool parentHandsDown =
+    parentNode && parentNode->isOfType(SoDialogGroup::getClassTypeId()) && !parentNode->isBuilt3D();
+  if (firstSceneBuild && !parentHandsDown)
     change3DWidgetEnable(enable.getValue());
 }
 
@@ -258,9 +286,9 @@ void SoDialogGroup::setFrameMargins()
 
 void SoDialogGroup::computeNewChildrenSize(int axis, SbVec2i32& newSize)
 {
-  SbVec2i32 size, min, max;
-  getDefaultSize(size, min, max);
-  sizeTable.distribute(axis, newSize[axis] - size[axis]);
+  SbVec2i32 defaults[3];
+  defaultSizeOfPass(defaults);
+  sizeTable.distribute(axis, newSize[axis] - defaults[0][axis]);
 }
 
 void SoDialogGroup::write(SoWriteAction* action)
@@ -283,6 +311,8 @@ void SoDialogGroup::change3DWidgetEnable(int enabled)
 void SoDialogGroup::show3D(int show)
 {
   SoDialogComponent::show3D(show);
+  if (makingSceneFrame)
+    return;
   for (int i = 0; i < numChildren; ++i)
     getComponent(i)->show3D(show);
 }

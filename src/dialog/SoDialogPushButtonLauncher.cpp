@@ -18,10 +18,14 @@ SoDialogPushButtonLauncher::~SoDialogPushButtonLauncher() = default;
 void SoDialogPushButtonLauncher::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
   SoDialogPushButton::buildWidget(parent, useSize, size, mode);
-  if (!buildMode)
-    return;
-  for (int i = 0; i < numChildren; ++i)
-    SoLauncherDialogs::build(childList().at(i), this);
+  for (int i = 0; i < numChildren; ++i) {
+    SoTopLevelDialog* dialog = childList().at(i);
+    const bool builtBefore = dialog->isBuilt3D();
+    SoLauncherDialogs::build(dialog, this);
+    // In the scene a new dialog waits, hidden, for the button.
+    if (mode == 0 && !builtBefore && dialog->isBuilt3D())
+      dialog->show3D(0);
+  }
 }
 
 void SoDialogPushButtonLauncher::eventNotify(unsigned int event, unsigned long long value)
@@ -30,7 +34,7 @@ void SoDialogPushButtonLauncher::eventNotify(unsigned int event, unsigned long l
   for (int i = 0; i < numChildren; ++i) {
     SoTopLevelDialog* dialog = childList().at(i);
     SoLauncherDialogs::build(dialog, this);
-    dialog->show();
+    SoLauncherDialogs::show(dialog, true);
   }
 }
 

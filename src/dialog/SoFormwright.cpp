@@ -314,8 +314,14 @@ void SoFormwright::change3DWidgetEnable(int enabled)
   if (!pickStyle || !enableMaterial)
     return;
   const bool active = enabled && enable.getValue();
-  pickStyle->style = active ? SoPickStyle::SHAPE : SoPickStyle::UNPICKABLE;
-  enableMaterial->emissiveColor = active ? SbColor(0.0f, 0.0f, 0.0f) : SbColor(0.5f, 0.5f, 0.5f);
+  // A group hands its state down through all it holds: only a change is
+  // written, as each write tells every level above.
+  const int style = active ? SoPickStyle::SHAPE : SoPickStyle::UNPICKABLE;
+  if (pickStyle->style.getValue() != style)
+    pickStyle->style = style;
+  const SbColor emissive = active ? SbColor(0.0f, 0.0f, 0.0f) : SbColor(0.5f, 0.5f, 0.5f);
+  if (enableMaterial->emissiveColor.getNum() != 1 || enableMaterial->emissiveColor[0] != emissive)
+    enableMaterial->emissiveColor = emissive;
 }
 
 void SoFormwright::change3DEnable()

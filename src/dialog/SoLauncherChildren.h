@@ -11,17 +11,37 @@
 #include "SoMenuChildren.h"
 #include "SoQt.h"
 
+#include <SoFormMode.h>
+
 namespace SoLauncherDialogs {
 
-// A dialog is built at its launcher's first need of it, as a window of the
-// application's main widget, and stays built when it is hidden. The
-// launcher is its parent from then on.
+// Whether a dialog stands in the form in which the library builds dialogs.
+inline bool isBuilt(SoTopLevelDialog* dialog)
+{
+  return SoFormMode::isSceneForm() ? dialog->isBuilt3D() != 0 : dialog->getBaseWidget() != nullptr;
+}
+
+// A dialog is built at its launcher's first need of it, in the library's
+// form: a window of the application's main widget, or a plate in the scene
+// where the launcher stands. It stays built when it is hidden. The launcher
+// is its parent from then on.
 inline void build(SoTopLevelDialog* dialog, SoFormwright* launcher)
 {
-  if (dialog->getBaseWidget())
+  if (isBuilt(dialog))
     return;
   dialog->buildDialog(Formwright::SoQt::getTopLevelWidget(), 0);
   dialog->setParent(launcher);
+}
+
+// Shows or hides a dialog in every form that it has.
+inline void show(SoTopLevelDialog* dialog, bool shown)
+{
+  if (shown)
+    dialog->show();
+  else
+    dialog->hide();
+  if (dialog->isBuilt3D())
+    dialog->show3D(shown);
 }
 
 }

@@ -25,9 +25,6 @@ void SoMenuCheckBoxLauncher::menuEvent(void* data, int id)
   for (int i = 0; i < numChildren; ++i) {
     SoTopLevelDialog* dialog = childList().at(i);
     SoLauncherDialogs::build(dialog, this);
-    if (state.getValue())
-      dialog->show();
-    else
-      dialog->hide();
+    SoLauncherDialogs::show(dialog, state.getValue() != 0);
   }
 }

@@ -23,6 +23,6 @@ void SoMenuPushButtonLauncher::menuEvent(void* data, int id)
   for (int i = 0; i < numChildren; ++i) {
     SoTopLevelDialog* dialog = childList().at(i);
     SoLauncherDialogs::build(dialog, this);
-    dialog->show();
+    SoLauncherDialogs::show(dialog, true);
   }
 }

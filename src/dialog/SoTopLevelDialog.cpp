@@ -11,6 +11,7 @@
 #include "SoFormwrightChildren.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoQt.h"
+#include "SoScenePass.h"
 #include "SoSizeRules.h"
 
 #include <QBoxLayout>
@@ -23,6 +24,8 @@
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoPickStyle.h>
 #include <Inventor/nodes/SoScale.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoSwitch.h>
@@ -116,6 +119,7 @@ void SoTopLevelDialog::buildDialog(QWidget* parent, int buildInside)
 
 void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
+  const SoScenePass pass(mode, true);
   SoFormwright::buildWidget(parent, useSize, size, mode);
   if (mode != 0 && !existWidget(baseWidget)) {
     createBaseWidget(parent);
@@ -549,6 +553,9 @@ void SoTopLevelDialog::create3DTopLevelDialog()
   frameGroup->insertChild(frameScale, 0);
   frameTranslation = new SoTranslation;
   switchNode->insertChild(frameTranslation, 0);
+  // Greying and dead picks come first, so that they reach all the plate.
+  switchNode->insertChild(pickStyle, 0);
+  switchNode->insertChild(enableMaterial, 0);
   frameTransform = new SoTransform;
   switchNode->insertChild(frameTransform, switchNode->findChild(labelGroup));
   labelTranslation = new SoTranslation;
@@ -574,6 +581,7 @@ void SoTopLevelDialog::create3DTopLevelDialog()
   setBuilt3D(1);
   frameDepth = -1.0f;
   firstMinimize = 1;
+  change3DWidgetEnable(enable.getValue());
   show3D(1);
 }
 
@@ -709,8 +717,15 @@ void SoTopLevelDialog::updateMinimizedState()
     setFieldUnwatched(minimized3DPosition, minimized3DPositionSensor, position3D.getValue());
     firstMinimize = 0;
   }
-  if (!independentMinimizedPosition.getValue())
+  if (!independentMinimizedPosition.getValue()) {
+    // The new coupling hands the shown field's value to the other one: the
+    // plate is placed below as a build places it, not as a drag moves it.
+    position3DSensor->detach();
+    minimized3DPositionSensor->detach();
     coupleMinimizedPosition(isMinimized);
+    position3DSensor->attach(&position3D);
+    minimized3DPositionSensor->attach(&minimized3DPosition);
+  }
   show3DChildren(isMinimized);
   if (isMinimized)
     minimize3DDialog();
@@ -820,6 +835,8 @@ void SoTopLevelDialog::getBoundingBox(SoGetBoundingBoxAction* action)
     SbVec2i32 size(0, 0), place(0, 0);
     buildWidget(nullptr, size, place, 0);
     show3D(wasShown);
+    // Built as `buildDialog` would have: later changes of the tree rebuild.
+    firstBuild = 0;
     enableNotify(notified);
   }
   SoDragger::getBoundingBox(action);
