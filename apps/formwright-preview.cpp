@@ -18,7 +18,7 @@
 #include <SoTopLevelDialog.h>
 
 #include <SoFormMode.h>
-#include "SoQtSceneViewer.h"
+#include <SoQtSceneViewer.h>
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>

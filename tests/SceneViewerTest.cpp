@@ -19,7 +19,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -227,20 +226,14 @@ TEST(SceneViewer, viewAllCentresTheCameraOnTheScene)
 TEST(SceneViewer, tabGoesToTheSceneBeforeItMovesTheFocus)
 {
   QWidget window;
-  auto* viewer = new SoQtSceneViewer;
-  auto* next = new QLineEdit;
-  auto* layout = new QVBoxLayout(&window);
-  layout->addWidget(viewer);
-  layout->addWidget(next);
-  SoEventCallback* keys = new SoEventCallback;
+  auto* viewer = new SoQtSceneViewer(&window);
+  new QLineEdit(&window); // where Tab would move the focus to
   std::vector<int> taken;
-  keys->addEventCallback(
-    SoKeyboardEvent::getClassTypeId(),
-    [](void* data, SoEventCallback* node) {
-      static_cast<std::vector<int>*>(data)->push_back(static_cast<const SoKeyboardEvent*>(node->getEvent())->getKey());
-      node->setHandled();
-    },
-    &taken);
+  auto* keys = new SoEventCallback;
+  keys->addEventCallback(SoKeyboardEvent::getClassTypeId(), [](void* data, SoEventCallback* node) {
+    static_cast<std::vector<int>*>(data)->push_back(static_cast<const SoKeyboardEvent*>(node->getEvent())->getKey());
+    node->setHandled();
+  }, &taken);
   viewer->setSceneGraph(keys);
   window.show();
   viewer->setFocus();
