@@ -11,6 +11,7 @@
 #include <SoQtSceneViewer.h>
 #include <SoTopLevelDialog.h>
 
+#include <Inventor/SoDB.h>
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -102,5 +103,7 @@ int main(int argc, char** argv)
     SoFormwright::setSkinsDirectories(FORMWRIGHT_EXAMPLE_SKINS);
   const int status = run(options);
   SoFormwright::finish();
+  // The library leaves the toolkit running: the application ends it.
+  SoDB::finish();
   return status;
 }
