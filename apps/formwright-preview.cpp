@@ -18,7 +18,7 @@
 #include <SoTopLevelDialog.h>
 
 #include <SoFormMode.h>
-#include "SoQtSceneViewer.h"
+#include <SoQtSceneViewer.h>
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
@@ -242,6 +242,8 @@ int run(const QCommandLineParser& options)
     viewer->resize(sceneSize.boundedTo(QSize(kLargestScreenshot, kLargestScreenshot)));
     viewer->setSceneGraph(scene);
     if (screenshot.isEmpty()) {
+      // The keys typed into the window go to the controls in the scene.
+      viewer->setFocus();
       viewer->show();
       return QApplication::exec();
     }

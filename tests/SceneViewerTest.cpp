@@ -5,7 +5,8 @@
 #include "TestSupport.h"
 
 #include "Qt/SoQtEventTranslator.h"
-#include "Qt/SoQtSceneViewer.h"
+#include "SoQtSceneViewer.h"
+#include "SoTopLevelDialog.h"
 
 #include <Inventor/actions/SoHandleEventAction.h>
 #include <Inventor/nodes/SoCamera.h>
@@ -16,6 +17,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <gtest/gtest.h>
 
@@ -61,6 +63,9 @@ TEST(SceneViewerInput, buttonsAndKeysTakeTheToolkitsCodes)
     {Qt::Key_F12, Qt::NoModifier, 0xffc9},    {Qt::Key_PageDown, Qt::NoModifier, 0xff56},
     {Qt::Key_Backtab, Qt::ShiftModifier, 0xff09}, {Qt::Key_Delete, Qt::NoModifier, 0xffff},
     {Qt::Key_Control, Qt::ControlModifier, 0xffe3}, {Qt::Key_QuoteLeft, Qt::NoModifier, 0x60},
+    // The pad with the number lock off: its keys keep the pad's codes.
+    {Qt::Key_Home, Qt::KeypadModifier, 0xff95}, {Qt::Key_Clear, Qt::KeypadModifier, 0xff9d},
+    {Qt::Key_Delete, Qt::KeypadModifier, 0xff9f}, {Qt::Key_Home, Qt::NoModifier, 0xff50},
     // No code of its own: a shifted character, and a key off the table.
     {Qt::Key_Exclam, Qt::ShiftModifier, SoKeyboardEvent::UNDEFINED},
     {Qt::Key_VolumeUp, Qt::NoModifier, SoKeyboardEvent::UNDEFINED},
@@ -120,6 +125,12 @@ TEST(SceneViewerInput, aDragAndTypingBecomeToolkitEventsWithStateAndModifiers)
   QKeyEvent euro(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(QChar(0x20ac)));
   key = static_cast<const SoKeyboardEvent*>(translator.translate(&euro, 100, 1.0));
   EXPECT_EQ(key->getPrintableCharacter(), '\0');
+  // Control characters, as Qt gives them for Ctrl+C or Escape, type nothing.
+  for (const char* control : {"\x03", "\x1b", "\x7f", "\t"}) {
+    QKeyEvent typed(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, control);
+    key = static_cast<const SoKeyboardEvent*>(translator.translate(&typed, 100, 1.0));
+    EXPECT_EQ(key->getPrintableCharacter(), '\0') << int(control[0]);
+  }
   QKeyEvent arrow(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
   key = static_cast<const SoKeyboardEvent*>(translator.translate(&arrow, 100, 1.0));
   EXPECT_TRUE(SoKeyboardEvent::isKeyPressEvent(key, SoKeyboardEvent::UP_ARROW));
@@ -210,6 +221,62 @@ TEST(SceneViewer, viewAllCentresTheCameraOnTheScene)
   viewer.viewAll();
   EXPECT_NEAR(viewer.getCamera()->position.getValue()[0], -10.0f, 0.001f);
   EXPECT_NEAR(viewer.getCamera()->position.getValue()[1], 5.0f, 0.001f);
+}
+
+TEST(SceneViewer, tabGoesToTheSceneBeforeItMovesTheFocus)
+{
+  QWidget window;
+  auto* viewer = new SoQtSceneViewer(&window);
+  new QLineEdit(&window); // where Tab would move the focus to
+  std::vector<int> taken;
+  auto* keys = new SoEventCallback;
+  keys->addEventCallback(SoKeyboardEvent::getClassTypeId(), [](void* data, SoEventCallback* node) {
+    static_cast<std::vector<int>*>(data)->push_back(static_cast<const SoKeyboardEvent*>(node->getEvent())->getKey());
+    node->setHandled();
+  }, &taken);
+  viewer->setSceneGraph(keys);
+  window.show();
+  viewer->setFocus();
+
+  QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, "\t");
+  QApplication::sendEvent(viewer, &tab);
+  EXPECT_EQ(taken, std::vector<int>{SoKeyboardEvent::TAB});
+  EXPECT_EQ(window.focusWidget(), viewer);
+}
+
+TEST(SceneViewer, whatIsAddedToTheShownSceneIsBuiltAndKeptBetweenTheClippingPlanes)
+{
+  DebugMessages quiet; // of the skin files, which the tests do without
+  SoQtSceneViewer viewer;
+  viewer.resize(300, 300);
+  auto* scene = new SoSeparator;
+  scene->addChild(new SoCube);
+  viewer.setSceneGraph(scene);
+  const SoCamera* camera = viewer.getCamera();
+  const float eye = camera->position.getValue()[2];
+  const float oldNear = camera->nearDistance.getValue();
+  const float oldFar = camera->farDistance.getValue();
+
+  // A dialog that nobody built, a cube of side 2 twice as far away as the
+  // far plane and one halfway between the eye and the near plane.
+  auto* dialog = new SoTopLevelDialog;
+  scene->addChild(dialog);
+  for (float centre : {eye - 2.0f * oldFar, eye - 0.5f * oldNear}) {
+    auto* placed = new SoSeparator;
+    auto* offset = new SoTranslation;
+    offset->translation.setValue(0.0f, 0.0f, centre);
+    placed->addChild(offset);
+    placed->addChild(new SoCube);
+    scene->addChild(placed);
+  }
+  QApplication::processEvents();
+
+  EXPECT_TRUE(dialog->isBuilt3D());
+  // Seen down the z axis, the far cube's back face is 2 far distances + 1
+  // away, the near cube's front face half a near distance - 1.
+  EXPECT_GE(camera->farDistance.getValue(), 2.0f * oldFar + 1.0f);
+  EXPECT_LE(camera->nearDistance.getValue(), 0.5f * oldNear - 1.0f);
+  EXPECT_GT(camera->nearDistance.getValue(), 0.0f);
 }
 
 }

@@ -40,8 +40,16 @@ const KeyPair kNamedKeys[] = {
   {Qt::Key_BracketRight, SoKeyboardEvent::BRACKETRIGHT}, {Qt::Key_QuoteLeft, SoKeyboardEvent::GRAVE},
 };
 
-// The number pad's keys, which Qt tells from the others by a modifier.
+// The number pad's keys, which Qt tells from the others by a modifier. With
+// the number lock off the pad's keys move instead of typing digits: Qt names
+// them as the cursor keys, the toolkit keeps the pad's own codes.
 const KeyPair kPadKeys[] = {
+  {Qt::Key_Insert, SoKeyboardEvent::PAD_INSERT}, {Qt::Key_End, SoKeyboardEvent::PAD_1},
+  {Qt::Key_Down, SoKeyboardEvent::PAD_2},       {Qt::Key_PageDown, SoKeyboardEvent::PAD_3},
+  {Qt::Key_Left, SoKeyboardEvent::PAD_4},       {Qt::Key_Clear, SoKeyboardEvent::PAD_5},
+  {Qt::Key_Right, SoKeyboardEvent::PAD_6},      {Qt::Key_Home, SoKeyboardEvent::PAD_7},
+  {Qt::Key_Up, SoKeyboardEvent::PAD_8},         {Qt::Key_PageUp, SoKeyboardEvent::PAD_9},
+  {Qt::Key_Delete, SoKeyboardEvent::PAD_DELETE},
   {Qt::Key_0, SoKeyboardEvent::PAD_0},          {Qt::Key_1, SoKeyboardEvent::PAD_1},
   {Qt::Key_2, SoKeyboardEvent::PAD_2},          {Qt::Key_3, SoKeyboardEvent::PAD_3},
   {Qt::Key_4, SoKeyboardEvent::PAD_4},          {Qt::Key_5, SoKeyboardEvent::PAD_5},
@@ -133,10 +141,12 @@ const SoEvent* SoQtEventTranslator::translate(const QEvent* event, int heightInP
     m_keyboardEvent.setKey(keyOf(key->key(), key->modifiers()));
     m_keyboardEvent.setState(event->type() == QEvent::KeyPress ? SoButtonEvent::DOWN : SoButtonEvent::UP);
     // The character typed, as the keyboard layout gives it; the toolkit
-    // holds one Latin-1 character.
+    // holds one Latin-1 character. Control characters, which Qt gives for
+    // Ctrl+letter, Escape or Tab, type nothing.
     const QString text = key->text();
-    const char typed = text.size() == 1 && text.at(0).unicode() < 256 ? static_cast<char>(text.at(0).unicode()) : 0;
-    m_keyboardEvent.setPrintableCharacter(typed);
+    const char16_t typed = text.size() == 1 ? text.at(0).unicode() : 0;
+    const bool printable = (typed >= 0x20 && typed < 0x7f) || (typed >= 0xa0 && typed < 0x100);
+    m_keyboardEvent.setPrintableCharacter(printable ? static_cast<char>(typed) : 0);
     return &m_keyboardEvent;
   }
   default:

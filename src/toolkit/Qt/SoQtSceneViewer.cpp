@@ -1,5 +1,8 @@
 #include "SoQtSceneViewer.h"
 
+#include "SoQtEventTranslator.h"
+
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoGLRenderAction.h>
 #include <Inventor/actions/SoHandleEventAction.h>
 #include <Inventor/elements/SoGLCacheContextElement.h>
@@ -16,6 +19,10 @@
 #include <QOpenGLFramebufferObject>
 #include <QOpenGLFunctions>
 #include <QSurfaceFormat>
+#include <QTimer>
+
+#include <algorithm>
+#include <limits>
 
 namespace Formwright {
 
@@ -38,6 +45,7 @@ SoQtSceneViewer::SoQtSceneViewer(QWidget* parent)
   , m_sceneSensor(new SoNodeSensor(sceneChangedCB, this))
   , m_renderAction(new SoGLRenderAction(SbViewportRegion()))
   , m_eventAction(new SoHandleEventAction(SbViewportRegion()))
+  , m_translator(std::make_unique<SoQtEventTranslator>())
   , m_cacheContext(SoGLCacheContextElement::getUniqueCacheContext())
 {
   setFormat(sceneFormat());
@@ -104,7 +112,43 @@ void SoQtSceneViewer::releaseContext()
 
 void SoQtSceneViewer::paintGL()
 {
+  if (m_fitPending)
+    fitToScene();
   render(getViewportRegion(), m_cacheContext);
+}
+
+void SoQtSceneViewer::fitToScene()
+{
+  m_fitPending = false;
+  m_busy = true;
+  // Measuring the scene also builds every dialog in it that has not been
+  // built yet.
+  SoGetBoundingBoxAction measure(getViewportRegion());
+  measure.apply(m_root);
+  const SbBox3f box = measure.getBoundingBox();
+  if (!box.isEmpty()) {
+    const SbVec3f eye = m_camera->position.getValue();
+    SbVec3f sight;
+    m_camera->orientation.getValue().multVec(SbVec3f(0.0f, 0.0f, -1.0f), sight);
+    float nearest = std::numeric_limits<float>::max();
+    float farthest = -nearest;
+    for (int corner = 0; corner < 8; ++corner) {
+      const SbVec3f point((corner & 1 ? box.getMax() : box.getMin())[0], (corner & 2 ? box.getMax() : box.getMin())[1],
+                          (corner & 4 ? box.getMax() : box.getMin())[2]);
+      const float distance = (point - eye).dot(sight);
+      nearest = std::min(nearest, distance);
+      farthest = std::max(farthest, distance);
+    }
+    // With nothing in front of the camera there is nothing to fit. A little
+    // room on both sides keeps faces on the bounds from being clipped, and
+    // the near plane stays far enough from the eye for the depth buffer.
+    if (farthest > 0.0f) {
+      farthest *= 1.01f;
+      m_camera->farDistance = farthest;
+      m_camera->nearDistance = std::max(nearest * 0.99f, farthest * 0.001f);
+    }
+  }
+  m_busy = false;
 }
 
 void SoQtSceneViewer::render(const SbViewportRegion& viewport, uint32_t cacheContext)
@@ -115,11 +159,11 @@ void SoQtSceneViewer::render(const SbViewportRegion& viewport, uint32_t cacheCon
   gl->glClearColor(m_background[0], m_background[1], m_background[2], 1.0f);
   gl->glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
   gl->glEnable(GL_DEPTH_TEST);
-  m_rendering = true;
+  m_busy = true;
   m_renderAction->setViewportRegion(viewport);
   m_renderAction->setCacheContext(cacheContext);
   m_renderAction->apply(m_root);
-  m_rendering = false;
+  m_busy = false;
 }
 
 QImage SoQtSceneViewer::renderToImage()
@@ -131,6 +175,8 @@ QImage SoQtSceneViewer::renderToImage()
   context.setFormat(format());
   if (!surface.isValid() || !context.create() || !context.makeCurrent(&surface))
     return QImage();
+  if (m_fitPending)
+    fitToScene();
   const SbViewportRegion viewport = getViewportRegion();
   const SbVec2s size = viewport.getViewportSizePixels();
   const uint32_t cacheContext = SoGLCacheContextElement::getUniqueCacheContext();
@@ -159,13 +205,31 @@ QImage SoQtSceneViewer::renderToImage()
 bool SoQtSceneViewer::processEvent(QEvent* event)
 {
   const qreal ratio = devicePixelRatioF();
-  const SoEvent* translated = m_translator.translate(event, getViewportRegion().getViewportSizePixels()[1], ratio);
+  const SoEvent* translated = m_translator->translate(event, getViewportRegion().getViewportSizePixels()[1], ratio);
   if (!translated)
     return false;
   m_eventAction->setViewportRegion(getViewportRegion());
   m_eventAction->setEvent(translated);
   m_eventAction->apply(m_root);
   return m_eventAction->isHandled();
+}
+
+// Tab and Shift+Tab are offered to the scene before they move the keyboard
+// focus on to the next widget, as Qt would do before any key handler.
+bool SoQtSceneViewer::event(QEvent* event)
+{
+  if (event->type() == QEvent::KeyPress) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool tab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+    if (tab && !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+      if (processEvent(event))
+        return true;
+      const bool forward = key->key() == Qt::Key_Tab && !(key->modifiers() & Qt::ShiftModifier);
+      event->setAccepted(focusNextPrevChild(forward));
+      return event->isAccepted();
+    }
+  }
+  return QOpenGLWidget::event(event);
 }
 
 void SoQtSceneViewer::mousePressEvent(QMouseEvent* event)
@@ -205,8 +269,18 @@ void SoQtSceneViewer::keyReleaseEvent(QKeyEvent* event)
 void SoQtSceneViewer::sceneChangedCB(void* data, SoSensor*)
 {
   auto* viewer = static_cast<SoQtSceneViewer*>(data);
-  if (!viewer->m_rendering)
-    viewer->update();
+  if (viewer->m_busy)
+    return;
+  // The sensor fires inside every single edit: the scene is measured once
+  // the whole change is made, and before it is drawn.
+  if (!viewer->m_fitPending) {
+    viewer->m_fitPending = true;
+    QTimer::singleShot(0, viewer, [viewer] {
+      if (viewer->m_fitPending)
+        viewer->fitToScene();
+    });
+  }
+  viewer->update();
 }
 
 }

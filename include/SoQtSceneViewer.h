@@ -1,7 +1,5 @@
 #pragma once
 
-#include "SoQtEventTranslator.h"
-
 #include <Inventor/SbColor.h>
 #include <Inventor/SbViewportRegion.h>
 
@@ -9,7 +7,11 @@
 #include <QOpenGLWidget>
 
 #include <cstdint>
+#include <memory>
 
+class QEvent;
+class QKeyEvent;
+class QMouseEvent;
 class SoCamera;
 class SoGLRenderAction;
 class SoHandleEventAction;
@@ -20,10 +22,14 @@ class SoSeparator;
 
 namespace Formwright {
 
+class SoQtEventTranslator;
+
 // A widget that shows a scene graph through a camera of its own and lets the
 // user work it: mouse and key input reach the scene as the toolkit's events,
-// so draggers and event callbacks in it respond as in any viewer. It can also
-// render the scene to an image without being shown.
+// so draggers, dialogs and event callbacks in it respond as in any viewer.
+// A dialog put into the scene needs no build of its own: the viewer measures
+// the scene whenever it changes, which builds the dialog in its 3D form. It
+// can also render the scene to an image without being shown.
 class SoQtSceneViewer : public QOpenGLWidget {
 public:
   explicit SoQtSceneViewer(QWidget* parent = nullptr);
@@ -49,6 +55,7 @@ public:
   bool processEvent(QEvent* event);
 
 protected:
+  bool event(QEvent* event) override;
   void initializeGL() override;
   void paintGL() override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -60,6 +67,7 @@ protected:
 
 private:
   void render(const SbViewportRegion& viewport, uint32_t cacheContext);
+  void fitToScene();
   void releaseContext();
   static void sceneChangedCB(void* data, SoSensor* sensor);
 
@@ -71,13 +79,15 @@ private:
   // One action for every event, so that a node that grabs the events of a
   // drag keeps them until it lets go.
   SoHandleEventAction* m_eventAction;
-  SoQtEventTranslator m_translator;
+  std::unique_ptr<SoQtEventTranslator> m_translator;
   // A dark grey, against which the light plates of dialogs stand out.
   const SbColor m_background{0.23f, 0.25f, 0.29f};
   uint32_t m_cacheContext;
-  // The scene notifies while it is drawn, when it builds its parts on
-  // first sight: that must not ask for another drawing.
-  bool m_rendering = false;
+  // The scene notifies while the viewer draws or measures it, when it builds
+  // its parts on first sight: that must not ask for another drawing.
+  bool m_busy = false;
+  // The scene changed since it was last measured.
+  bool m_fitPending = false;
 };
 
 }
