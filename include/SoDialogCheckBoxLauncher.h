@@ -54,6 +54,8 @@ protected:
 
   SbBool readInstance(SoInput* in, unsigned short flags) override;
   virtual int readChildren(SoInput* in);
+  // In the scene the dialogs follow the state that the release toggles.
+  void draggerFinishCallback3D() override;
 
   int32_t numChildren = 0;
 

@@ -60,6 +60,8 @@ protected:
   // fires it, wherever the pointer has gone.
   virtual void draggerStartCallback3D();
   virtual void draggerFinishCallback3D();
+  // Whether the press hit the block or its caption, not the label.
+  bool pressHitsButton(const SoPath* path) const;
 
   SoDialogQPushButton* buttonWidget = nullptr;
   // The button text's pixel size with the button's margins.
@@ -94,6 +96,4 @@ private:
   void update3DLabel();
   static void startCB3D(void* data, SoDragger* dragger);
   static void finishCB3D(void* data, SoDragger* dragger);
-  // Whether the press hit the block or its caption, not the label.
-  bool pressHitsButton(const SoPath* path) const;
 };

@@ -42,6 +42,8 @@ public:
   virtual void removeAllChildren();
   virtual void replaceChild(SoTopLevelDialog* oldChild, SoTopLevelDialog* newChild);
   virtual void replaceChild(int index, SoTopLevelDialog* newChild);
+  // Builds the dialogs where needed and shows them.
+  void showDialogs();
 
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
@@ -52,6 +54,8 @@ protected:
 
   SbBool readInstance(SoInput* in, unsigned short flags) override;
   virtual int readChildren(SoInput* in);
+  // In the scene the button opens its dialogs at the release that fires it.
+  void draggerFinishCallback3D() override;
 
   int32_t numChildren = 0;
 

@@ -310,14 +310,20 @@ TEST(SceneLaunchers, buildTheirDialogsInTheSceneAndShowThemThere)
   button->addChild(dialogs[0]), box->addChild(dialogs[1]), entry->addChild(dialogs[2]);
   box->state = TRUE;
   SoFormMode::setSceneForm(true);
+  // The button and the box one below the other, 60 apart.
+  int top = 0;
   for (SoFormwright* launcher : std::initializer_list<SoFormwright*>{button, box, entry}) {
-    SbVec2i32 size(0, 0), place(0, 0);
+    SbVec2i32 size(0, 0), place(0, top);
     launcher->buildWidget(nullptr, size, place, 0);
     scene.root->addChild(launcher);
+    top += 60;
   }
   EXPECT_TRUE(dialogs[0]->isBuilt3D());
   EXPECT_EQ(std::vector<bool>({shown(0), shown(1), shown(2)}), std::vector<bool>({false, true, false}));
-  button->eventNotify(0, 0), box->eventNotify(0, 0), entry->menuEvent(nullptr, 0);
+  // Released on the button's block and on the box's frame, at their right ends.
+  scene.click(button->width.getValue() - 5.0f, -button->height.getValue() / 2.0f);
+  scene.click(box->width.getValue() - 5.0f, -60 - box->height.getValue() / 2.0f);
+  entry->menuEvent(nullptr, 0);
   EXPECT_EQ(std::vector<bool>({shown(0), shown(1), shown(2)}), std::vector<bool>({true, false, true}));
   entry->menuEvent(nullptr, 0);
   EXPECT_FALSE(shown(2));

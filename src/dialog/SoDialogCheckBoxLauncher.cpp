@@ -28,6 +28,12 @@ void SoDialogCheckBoxLauncher::eventNotify(unsigned int event, unsigned long lon
   showDialogsAsChecked();
 }
 
+void SoDialogCheckBoxLauncher::draggerFinishCallback3D()
+{
+  SoDialogCheckBox::draggerFinishCallback3D();
+  showDialogsAsChecked();
+}
+
 void SoDialogCheckBoxLauncher::showDialogsAsChecked()
 {
   for (int i = 0; i < numChildren; ++i) {

@@ -31,6 +31,19 @@ void SoDialogPushButtonLauncher::buildWidget(QWidget* parent, SbVec2i32& useSize
 void SoDialogPushButtonLauncher::eventNotify(unsigned int event, unsigned long long value)
 {
   SoDialogPushButton::eventNotify(event, value);
+  showDialogs();
+}
+
+void SoDialogPushButtonLauncher::draggerFinishCallback3D()
+{
+  const bool fires = pressHitsButton(getPressPath());
+  SoDialogPushButton::draggerFinishCallback3D();
+  if (fires)
+    showDialogs();
+}
+
+void SoDialogPushButtonLauncher::showDialogs()
+{
   for (int i = 0; i < numChildren; ++i) {
     SoTopLevelDialog* dialog = childList().at(i);
     SoLauncherDialogs::build(dialog, this);
