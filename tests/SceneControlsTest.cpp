@@ -106,6 +106,9 @@ protected:
     return SbVec2f(4 + c->width.getValue() / 2.0f, -23 - c->height.getValue() / 2.0f);
   }
 
+  // The nodes live on after the test; the auditor does not.
+  void TearDown() override { dialog->removeAuditor(&heard); }
+
   Scene scene;
   SoTopLevelDialog* dialog = makeNode<SoTopLevelDialog>();
   Heard heard;

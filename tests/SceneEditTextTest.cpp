@@ -56,6 +56,10 @@ struct EditScene {
     editAt = centreOf(edit);
     otherAt = centreOf(other);
   }
+  // The nodes live on, and the edit text may still hold the keyboard.
+  ~EditScene() { edit->removeAuditor(&auditor); }
+  EditScene(const EditScene&) = delete;
+  EditScene& operator=(const EditScene&) = delete;
   static void countUntaken(void* data, SoEventCallback* callback)
   {
     if (SoKeyboardEvent::isKeyPressEvent(callback->getEvent(), SoKeyboardEvent::ANY))
