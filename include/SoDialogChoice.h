@@ -52,6 +52,10 @@ protected:
   void fixItemsNumber();
   // The entries that are real choices, the placeholder aside.
   int32_t getRealItemCount() const { return itemCount - isEmptyList; }
+  // Puts a `selectedItem` out of range back to the last selection shown, or
+  // to 0 if that is out of range too, with the sensor off; returns the
+  // selection to show, which becomes the last one shown.
+  int32_t mendSelectedItem();
 
   // The length of `items` as last read.
   int32_t itemCount = 1;
@@ -59,4 +63,6 @@ protected:
   int32_t isEmptyList = 1;
   SoFieldSensor* itemsSensor = nullptr;
   SoFieldSensor* selectedItemSensor = nullptr;
+  // The selection that the 3D form last showed.
+  int32_t lastSelectedItem = 0;
 };

@@ -84,9 +84,6 @@ protected:
   SoNodeList itemSwitches;
   // The first item's measured text box; empty until measured.
   SbBox3f itemBBox;
-  // The selection that the 3D form last showed, to which a selection out of
-  // range goes back.
-  int32_t lastSelectedItem = 0;
 
   void change3DItems() override;
   // Mends a selection out of range, then shows the selected item.

@@ -48,6 +48,18 @@ void SoDialogChoice::fixItemsNumber()
     isEmptyList = 0;
 }
 
+int32_t SoDialogChoice::mendSelectedItem()
+{
+  const auto inRange = [this](int32_t index) { return index >= 0 && index < itemCount; };
+  int32_t index = selectedItem.getValue();
+  if (!inRange(index)) {
+    index = inRange(lastSelectedItem) ? lastSelectedItem : 0;
+    setFieldUnwatched(selectedItem, selectedItemSensor, index);
+  }
+  lastSelectedItem = index;
+  return index;
+}
+
 void SoDialogChoice::addItem(SbString text)
 {
   itemCount = items.getNum();

@@ -420,13 +420,7 @@ void SoDialogRadioButtons::change3DItems()
 
 void SoDialogRadioButtons::change3DSelectedItem()
 {
-  const auto inRange = [this](int32_t index) { return index >= 0 && index < itemCount; };
-  int32_t index = selectedItem.getValue();
-  if (!inRange(index)) {
-    index = inRange(lastSelectedItem) ? lastSelectedItem : 0;
-    setFieldUnwatched(selectedItem, selectedItemSensor, index);
-  }
-  lastSelectedItem = index;
+  const int32_t index = mendSelectedItem();
   for (int i = 0; i < itemSwitches.getLength(); ++i)
     setSwitchValue(itemSwitches[i], i == index);
 }
