@@ -36,12 +36,17 @@ protected:
   void setValue() override;
   void changeEditValue() override;
   int computeEditZoneWidth() override;
+  void change3DEditValue() override;
+  void computeNewSliderEditValue(SoKeyboardEvent* event) override;
 
   SoFieldSensor* minSensor = nullptr;
   SoFieldSensor* maxSensor = nullptr;
   SoFieldSensor* valueSensor = nullptr;
 
 private:
+  // The value that the position shows.
+  int32_t shownValue() const;
+
   friend class SoSliderLimits<SoDialogIntegerSlider>;
 
   // The position of `value` between the limits; 0 when they are equal.

@@ -35,12 +35,17 @@ protected:
   void setValue() override;
   void changeEditValue() override;
   int computeEditZoneWidth() override;
+  void change3DEditValue() override;
+  void computeNewSliderEditValue(SoKeyboardEvent* event) override;
 
   SoFieldSensor* minSensor = nullptr;
   SoFieldSensor* maxSensor = nullptr;
   SoFieldSensor* valueSensor = nullptr;
 
 private:
+  // The value that the position shows.
+  double shownValue() const;
+
   friend class SoSliderLimits<SoDialogRealSlider>;
 
   // The position of `number` between the limits; 0 when they are equal.

@@ -6,9 +6,15 @@
 #include <Inventor/fields/SoSFBool.h>
 #include <Inventor/fields/SoSFString.h>
 
+class SbLineProjector;
 class SoDialogCustomSlider;
 class SoDialogQSlider;
+class SoEventCallback;
 class SoKeyboardEvent;
+class SoScale;
+class SoText3;
+class SoTransform;
+class SoTranslation;
 
 // The base of the sliders: a row of the label, a toggle of continuous
 // triggering, a bar with a colour ramp and a zone that shows and takes the
@@ -60,6 +66,12 @@ public:
   void updateLabelWidget();
   void updateToggleWidget();
   virtual void applyDlgCptAuditor();
+  // The 3D cursor at the position.
+  void change3DSliderValue();
+  void change3DCursor();
+  // Hands a key to the 3D value box while it takes keys; `data` is the
+  // slider.
+  static void processKeyEvents(void* data, SoEventCallback* callback);
 
 protected:
   ~SoDialogSlider() override;
@@ -93,8 +105,23 @@ protected:
   void updateWidget();
   // The text that the 3D form's value zone holds.
   SbString get3DValueFromEdit();
-  void change3DSliderValue();
-  void change3DCursor();
+  void change3DEnable() override;
+  // Leaves the 3D value box; what was typed stays in it, not taken.
+  void set3DInactive() override;
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
+  void change3DLabelVisibility() override;
+  // What a key press does in the 3D value box.
+  enum class ValueKey {
+    // Return: the text is to be taken.
+    Commit,
+    // A character for the value class to judge, 0 for none.
+    Typed,
+    // The key did its work already: Backspace shortened the text.
+    Taken
+  };
+  ValueKey read3DKey(const SoKeyboardEvent* event, char& typed);
+  void store3DEditText(const SbString& text);
 
   SoDialogQSlider* sliderWidget = nullptr;
   SoDialogCustomSlider* customSlider = nullptr;
@@ -113,6 +140,31 @@ protected:
   SoFieldSensor* fixedLimitsSensor = nullptr;
   SoFieldSensor* formatSensor = nullptr;
 
+  SoSFNode labelSep;
+  SoSFNode labelSwitch;
+  SoSFNode labelProp;
+  SoSFNode checkSep;
+  SoSFNode checkSwtch;
+  SoSFNode checkStateOff;
+  SoSFNode checkStateOn;
+  SoSFNode sliderSep;
+  SoSFNode frameSep;
+  SoSFNode frame;
+  SoSFNode cursorSep;
+  SoSFNode cursor;
+  SoSFNode edtSwtch;
+  SoSFNode edtFrmSep;
+  SoSFNode edtFrmSwtch;
+  SoSFNode valueFrame;
+  SoSFNode editValueFrame;
+  SoSFNode editTextSep;
+  SoSFNode editTextProp;
+
+  // The shown number of the 3D value box.
+  SoText3* editText3 = nullptr;
+  // 1 while the 3D value box takes keys.
+  int editing3D = 0;
+
 private:
   void createLabelWidget();
   void changeColors();
@@ -124,4 +176,43 @@ private:
   void create3DDialogSlider();
   void update3DSlider();
   void update3DLabel();
+  // The toggle's switch: hidden, or showing the state of `continuousTrigger`.
+  int toggleSwitchValue() const;
+  // Moves the 3D cursor and shows the value taken from it in both forms;
+  // `trigger` also sets the value field.
+  void takeSliderPosition(float position, bool trigger);
+  // Brings the other forms to the value just taken from the 3D form.
+  void showTakenValue();
+  static void startCB3D(void* data, SoDragger* dragger);
+  static void motionCB3D(void* data, SoDragger* dragger);
+  static void finishCB3D(void* data, SoDragger* dragger);
+  void draggerStartCallback3D();
+  void draggerMotionCallback3D();
+  void draggerFinishCallback3D();
+  // A press on the bar puts the cursor's centre at the press point.
+  void jump3DCursor();
+
+  SoText3* labelText = nullptr;
+  SoTranslation* labelTranslation = nullptr;
+  SoTranslation* checkTranslation = nullptr;
+  SoTranslation* sliderTranslation = nullptr;
+  SoScale* frameScale = nullptr;
+  SoTransform* frameTransform = nullptr;
+  SoTranslation* cursorBase = nullptr;
+  SoTranslation* cursorOffset = nullptr;
+  SoTranslation* editTranslation = nullptr;
+  SoScale* editScale = nullptr;
+  SoTransform* editTransform = nullptr;
+  SoTranslation* editTextTranslation = nullptr;
+  // The measure of the shown number; empty until measured.
+  SbBox3f editBBox;
+  SbLineProjector* projector = nullptr;
+  SoEventCallback* keyCallback = nullptr;
+  // The cursor's offset at the press.
+  SbVec3f startCursor{0.0f, 0.0f, 0.0f};
+  // Where the pointer last met the cursor's line, kept for a ray that misses
+  // it.
+  SbVec3f lastProjected{0.0f, 0.0f, 0.0f};
+  // The bar's length.
+  int frameWidth = 0;
 };

@@ -10,6 +10,7 @@
 #include "SoSliderLimits.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdint>
 
@@ -124,17 +125,45 @@ void SoDialogIntegerSlider::setValueFromEdit(int mode)
   SoSliderLimits<SoDialogIntegerSlider>::takeTyped(*this, number, corrected);
 }
 
+// Half a step added before the truncation rounds to the nearest value.
+int32_t SoDialogIntegerSlider::shownValue() const
+{
+  const double range = double(max.getValue()) - min.getValue();
+  if (range == 0.0)
+    return min.getValue();
+  return wholePart(std::trunc((double(normalizedValue) + 1.0 / (range * 2.0)) * range) + min.getValue());
+}
+
 void SoDialogIntegerSlider::changeEditValue()
 {
   if (!sliderWidget)
     return;
-  const double range = double(max.getValue()) - min.getValue();
-  int32_t shown = min.getValue();
-  if (range != 0.0)
-    shown = wholePart(std::trunc((double(normalizedValue) + 1.0 / (range * 2.0)) * range) + min.getValue());
   const SbString text =
-    SoSliderFormat::formatInteger(format.getValue(), shown, "SoDialogIntegerSlider::changeEditValue");
+    SoSliderFormat::formatInteger(format.getValue(), shownValue(), "SoDialogIntegerSlider::changeEditValue");
   sliderWidget->setEditText(SoControlWidgets::toWidgetText(text));
+}
+
+void SoDialogIntegerSlider::change3DEditValue()
+{
+  if (!editText3)
+    return;
+  store3DEditText(
+    SoSliderFormat::formatInteger(format.getValue(), shownValue(), "SoDialogIntegerSlider::change3DEditValue"));
+  SoDialogSlider::change3DEditValue();
+}
+
+// The box takes digits only: no sign, no fraction.
+void SoDialogIntegerSlider::computeNewSliderEditValue(SoKeyboardEvent* event)
+{
+  char typed = 0;
+  const ValueKey key = read3DKey(event, typed);
+  if (key == ValueKey::Commit) {
+    SoSliderLimits<SoDialogIntegerSlider>::commit3DTyped(*this, SbStringConvert::toInt(get3DValueFromEdit()));
+  } else if (key == ValueKey::Typed && std::isdigit(static_cast<unsigned char>(typed))) {
+    SbString next = get3DValueFromEdit();
+    next += typed;
+    store3DEditText(next);
+  }
 }
 
 int SoDialogIntegerSlider::computeEditZoneWidth()

@@ -96,13 +96,44 @@ void SoDialogRealSlider::setValueFromEdit(int mode)
   SoSliderLimits<SoDialogRealSlider>::takeTyped(*this, SbStringConvert::toFloat(text), false);
 }
 
+double SoDialogRealSlider::shownValue() const
+{
+  return normalizedValue * (max.getValue() - min.getValue()) + min.getValue();
+}
+
 void SoDialogRealSlider::changeEditValue()
 {
   if (!sliderWidget)
     return;
-  const double shown = normalizedValue * (max.getValue() - min.getValue()) + min.getValue();
-  const SbString text = SoSliderFormat::formatReal(format.getValue(), shown, "SoDialogRealSlider::changeEditValue");
+  const SbString text =
+    SoSliderFormat::formatReal(format.getValue(), shownValue(), "SoDialogRealSlider::changeEditValue");
   sliderWidget->setEditText(SoControlWidgets::toWidgetText(text));
+}
+
+void SoDialogRealSlider::change3DEditValue()
+{
+  if (!editText3)
+    return;
+  store3DEditText(SoSliderFormat::formatReal(format.getValue(), shownValue(), "SoDialogRealSlider::change3DEditValue"));
+  SoDialogSlider::change3DEditValue();
+}
+
+// The box keeps only what reads as a number: a key that would make it none
+// is dropped.
+void SoDialogRealSlider::computeNewSliderEditValue(SoKeyboardEvent* event)
+{
+  char typed = 0;
+  const ValueKey key = read3DKey(event, typed);
+  if (key == ValueKey::Commit) {
+    SoSliderLimits<SoDialogRealSlider>::commit3DTyped(*this, SbStringConvert::toFloat(get3DValueFromEdit()));
+  } else if (key == ValueKey::Typed && typed != 0) {
+    SbString next = get3DValueFromEdit();
+    next += typed;
+    bool isNumber = false;
+    SbStringConvert::toFloat(next, &isNumber);
+    if (isNumber)
+      store3DEditText(next);
+  }
 }
 
 namespace {

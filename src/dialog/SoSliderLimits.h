@@ -115,6 +115,24 @@ public:
       slider.change3DEditValue();
   }
 
+  // The text of the 3D value box taken at Return: the field holds the number
+  // as typed, and the bar shows it as the limits allow.
+  template <class Number>
+  static void commit3DTyped(Slider& slider, Number number)
+  {
+    const bool attached = slider.valueSensor && slider.valueSensor->getAttachedField() == &slider.value;
+    if (attached)
+      slider.valueSensor->detach();
+    slider.setValueFromEdit(0);
+    slider.value.setValue(number);
+    slider.change3DSliderValue();
+    if (slider.buildMode)
+      slider.changeSliderValue();
+    if (attached)
+      slider.valueSensor->attach(&slider.value);
+    slider.finish3DEditing();
+  }
+
 private:
   static void showOnBar(Slider& slider)
   {
