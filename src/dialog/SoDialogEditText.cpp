@@ -5,6 +5,7 @@
 #include "Qt/SoDialogQEditText.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoKeyCharacter.h"
 
 #include <Inventor/SbLine.h>
 #include <Inventor/SbPlane.h>
@@ -341,21 +342,6 @@ float safeRatio(float numerator, float denominator)
 {
   const float ratio = numerator / denominator;
   return std::isfinite(ratio) ? ratio : 0.0f;
-}
-
-// The character a key types, or 0. Keys of the function range type nothing,
-// except the keypad's, whose navigation keys type their digits.
-char typedCharacter(const SoKeyboardEvent& event)
-{
-  const int key = event.getKey();
-  if (key == SoKeyboardEvent::PAD_PERIOD)
-    return '.';
-  if (key <= 0xff00)
-    return event.getPrintableCharacter();
-  static const char keypad[] = "7486293150";
-  if (key >= SoKeyboardEvent::PAD_7 && key <= SoKeyboardEvent::PAD_0)
-    return keypad[key - SoKeyboardEvent::PAD_7];
-  return 0;
 }
 }
 
@@ -846,7 +832,7 @@ void SoDialogEditText::processKeyEvents(void* data, SoEventCallback* callback)
   } else if (key == SoKeyboardEvent::BACKSPACE) {
     self->removeCharIn3DText();
   } else {
-    const char typed = typedCharacter(*keyEvent);
+    const char typed = SoKeyCharacter::typedBy(*keyEvent);
     if (!typed)
       return;
     self->insertCharTo3DText(typed);
