@@ -570,11 +570,10 @@ void SoTabDialog::change3DPages()
     SoDialogComponent* child = getComponent(i);
     SbVec3f childOrigin = origin;
     child->set3DParentTranslation(childOrigin);
-    // A page's component is dictated a size of 2 where the page has room,
-    // and so falls back on its minimum size.
-    SbVec2i32 dictated(pageArea[0] != 0 ? 2 : 0, pageArea[1] != 0 ? 2 : 0);
+    // Each page's component fills the page, 2 in from the plate's corner.
+    SbVec2i32 size = pageArea;
     SbVec2i32 place(2, 2);
-    child->buildWidget(nullptr, dictated, place, 0);
+    child->buildWidget(nullptr, size, place, 0);
     if (i >= static_cast<int>(tabs.size()))
       makeTab();
     update3DTabDialogPage(i);
