@@ -479,12 +479,6 @@ constexpr int32_t kPlateFrame = 3;
 constexpr int32_t kButtonsRoom = 34;
 constexpr float kButtonSize = 14.0f;
 constexpr float kButtonStep = 16.0f;
-
-void setWhich(SoSwitch* node, int which)
-{
-  if (node->whichChild.getValue() != which)
-    node->whichChild = which;
-}
 } // namespace
 
 void SoTabDialog::create3DTabDialog()
@@ -641,8 +635,8 @@ void SoTabDialog::update3DTabDialogPage(int page)
   Tab& tab = tabs[page];
   SoControl3D::clearText(tab.text);
   setStringToText3(tab.text, convertToCString(getComponent(page)->label.getValue(), getComponent(page)));
-  setWhich(tab.tabSwitch, SO_SWITCH_ALL);
-  setWhich(tab.selectedSwitch, page == selectedPage.getValue() ? 1 : 0);
+  setSwitchValue(tab.tabSwitch, SO_SWITCH_ALL);
+  setSwitchValue(tab.selectedSwitch, page == selectedPage.getValue() ? 1 : 0);
 
   const SbBox3f box = SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(textProp.getValue()), tab.text));
   const float titleWidth = std::max(box.getMax()[0] - box.getMin()[0], kNarrowestTitle);
@@ -690,8 +684,8 @@ void SoTabDialog::change3DSelectedPage()
   for (int i = 0; i < count; ++i) {
     if (i >= firstVisiblePage)
       sum += tabSizes[i][0];
-    setWhich(tabs[i].tabSwitch, stripWidth > sum && i >= firstVisiblePage ? SO_SWITCH_ALL : SO_SWITCH_NONE);
-    setWhich(tabs[i].selectedSwitch, i == page ? 1 : 0);
+    setSwitchValue(tabs[i].tabSwitch, stripWidth > sum && i >= firstVisiblePage ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+    setSwitchValue(tabs[i].selectedSwitch, i == page ? 1 : 0);
     undoTransformMatrix(tabs[i].frameSeparator, tabs[i].transform);
     if (fullTabsWidth > sum)
       lastFullTab = i;
@@ -699,8 +693,8 @@ void SoTabDialog::change3DSelectedPage()
   if (clipTabs) {
     const int next = lastFullTab + 1;
     if (next < count) {
-      setWhich(tabs[next].tabSwitch, SO_SWITCH_ALL);
-      setWhich(tabs[next].selectedSwitch, next == page ? 1 : 0);
+      setSwitchValue(tabs[next].tabSwitch, SO_SWITCH_ALL);
+      setSwitchValue(tabs[next].selectedSwitch, next == page ? 1 : 0);
       // A tab chosen at the cut edge scrolls into view.
       if (tabClicked && next == page)
         change3DFirstPageRight();
@@ -737,7 +731,7 @@ void SoTabDialog::change3DFirstPageRight()
     ++firstVisiblePage;
   placeFirstVisibleTab();
   if (firstVisiblePage != 0)
-    setWhich(tabs[firstVisiblePage - 1].tabSwitch, SO_SWITCH_NONE);
+    setSwitchValue(tabs[firstVisiblePage - 1].tabSwitch, SO_SWITCH_NONE);
   tabClicked = 0;
   change3DSelectedPage();
 }
@@ -749,7 +743,7 @@ void SoTabDialog::change3DFirstPageLeft()
     return;
   if (firstVisiblePage != 0)
     --firstVisiblePage;
-  setWhich(tabs[firstVisiblePage].tabSwitch, SO_SWITCH_ALL);
+  setSwitchValue(tabs[firstVisiblePage].tabSwitch, SO_SWITCH_ALL);
   placeFirstVisibleTab();
   const int first = firstVisiblePage;
   if (first < numChildren - 1)
