@@ -15,7 +15,6 @@ int whichChild(SoNode* node) { return static_cast<SoSwitch*>(node)->whichChild.g
 
 // The strip holds its two clip planes ahead of the tabs.
 struct Tabs : SoTabDialog {
-  using SoTabDialog::lButtonSwtch;
   using SoTabDialog::rButtonSwtch;
   SoGroup* strip() const { return static_cast<SoGroup*>(pagesSep.getValue()); }
   int tabCount() const { return strip()->getNumChildren() - 2; }
@@ -54,11 +53,8 @@ protected:
   static constexpr float kStripLeft = 7.0f;
   static constexpr float kStripMiddle = -36.0f;
   void pressTab(int slot) { scene.click(kStripLeft + 39.0f * slot + 19.5f, kStripMiddle); }
-  // Each button's middle: 10 and 26 in from the strip's right end.
-  void pressButton(float fromRight, SoButtonEvent::State state)
-  {
-    scene.button(state, kStripLeft + (tabs->width.getValue() - 6) - fromRight, kStripMiddle);
-  }
+  // The buttons' middles: 26 and 10 in from the strip's right end.
+  float button(float fromRight) const { return kStripLeft + (tabs->width.getValue() - 6) - fromRight; }
   // A hidden page has nothing to measure.
   void expectOnlyPageShown(int selected)
   {
@@ -77,7 +73,10 @@ protected:
   PageListener listener;
 };
 
-TEST_F(SceneTabs, aPressOnATabShowsItsPageAloneAndIsHeardOnceAndAPageOutOfRangeFallsBackUnheard)
+// Pages chosen by a press are heard; pages out of range or removed fall
+// back unheard; a page added or removed after the build brings or takes
+// its tab.
+TEST_F(SceneTabs, aPressOnATabShowsItsPageAloneAndTabsFollowThePages)
 {
   build(3, 300);
   expectOnlyPageShown(0);
@@ -93,7 +92,17 @@ TEST_F(SceneTabs, aPressOnATabShowsItsPageAloneAndIsHeardOnceAndAPageOutOfRangeF
     EXPECT_EQ(tabs->selectedPage.getValue(), 1) << outOfRange;
   }
   expectOnlyPageShown(1);
-  EXPECT_EQ(listener.calls, 2);
+
+  tabs->addChild(page(3));
+  EXPECT_EQ(tabs->tabCount(), 4);
+  pressTab(3);
+  expectOnlyPageShown(3);
+  // The page to fall back on goes with the chosen one: the first is left.
+  tabs->removeChild(3);
+  EXPECT_EQ(tabs->tabCount(), 3);
+  EXPECT_EQ(tabs->selectedPage.getValue(), 0);
+  expectOnlyPageShown(0);
+  EXPECT_EQ(listener.calls, 3);
 }
 
 TEST_F(SceneTabs, theScrollButtonsShowDownAtThePressAndMoveTheStripByOneAtRelease)
@@ -102,35 +111,18 @@ TEST_F(SceneTabs, theScrollButtonsShowDownAtThePressAndMoveTheStripByOneAtReleas
   build(6, 200);
   EXPECT_TRUE(tabs->tabShown(4));
   EXPECT_FALSE(tabs->tabShown(5));
-  pressButton(10, SoButtonEvent::DOWN);
+  scene.button(SoButtonEvent::DOWN, button(10), kStripMiddle);
   EXPECT_EQ(whichChild(tabs->rButtonSwtch.getValue()), 1);
   EXPECT_TRUE(tabs->tabShown(0)) << "the strip moves at release";
-  pressButton(10, SoButtonEvent::UP);
+  scene.button(SoButtonEvent::UP, button(10), kStripMiddle);
+  EXPECT_EQ(whichChild(tabs->rButtonSwtch.getValue()), 0);
   EXPECT_FALSE(tabs->tabShown(0));
   EXPECT_TRUE(tabs->tabShown(5));
   pressTab(0);
   EXPECT_EQ(tabs->selectedPage.getValue(), 1);
-
-  pressButton(26, SoButtonEvent::DOWN);
-  EXPECT_EQ(whichChild(tabs->lButtonSwtch.getValue()), 1);
-  pressButton(26, SoButtonEvent::UP);
-  EXPECT_EQ(whichChild(tabs->lButtonSwtch.getValue()), 0);
+  scene.click(button(26), kStripMiddle);
   pressTab(0);
   EXPECT_EQ(tabs->selectedPage.getValue(), 0);
-}
-
-TEST_F(SceneTabs, aPageAddedOrRemovedAfterTheBuildMakesOrRemovesItsTab)
-{
-  build(2, 300);
-  tabs->addChild(page(2));
-  EXPECT_EQ(tabs->tabCount(), 3);
-  pressTab(2);
-  expectOnlyPageShown(2);
-  // The page to fall back on goes with the chosen one: the first is left.
-  tabs->removeChild(2);
-  EXPECT_EQ(tabs->tabCount(), 2);
-  EXPECT_EQ(tabs->selectedPage.getValue(), 0);
-  expectOnlyPageShown(0);
 }
 
 } // namespace
