@@ -3,12 +3,24 @@
 #include "SoDialogGroup.h"
 #include "SoDialogWidgetList.h"
 
+#include <Inventor/fields/SoMFVec2f.h>
 #include <Inventor/fields/SoSFEnum.h>
 #include <Inventor/fields/SoSFInt32.h>
+#include <Inventor/fields/SoSFNode.h>
 
+#include <vector>
+
+class SoClipPlane;
 class SoDialogQTabDialog;
+class SoDragger;
 class SoNodeSensor;
+class SoScale;
+class SoSeparator;
+class SoSwitch;
 class SoTabDialogAuditor;
+class SoText3;
+class SoTransform;
+class SoTranslation;
 
 // A container whose children are pages, of which one shows at a time. Each
 // child's label is the title of its page's tab.
@@ -64,8 +76,13 @@ public:
   // title is fixed when its page is made.
   void changeEnableChild(int page);
   void changePageLabel(int page);
-  // The pages of the 3D form.
+  // The pages of the 3D form: builds each page on the plate and makes or
+  // removes tabs as pages come and go.
   void change3DPages();
+  // Only the selected page shows with the dialog.
+  void show3D(int show) override;
+  // Hands the plate's origin to the selected page.
+  void change3DPosition() override;
 
 protected:
   ~SoTabDialog() override;
@@ -85,6 +102,25 @@ protected:
   // Where `selectedPage` goes when its page is removed.
   int32_t previousSelectedPage = 0;
 
+  // The 3D form: the plate under the pages, the strip of tabs along its top
+  // edge cut by two clip planes, and the buttons that scroll the strip.
+  SoSFNode pagesSep;
+  SoSFNode pageSwitch;
+  SoSFNode selected;
+  SoSFNode unselected;
+  SoSFNode textProp;
+  SoSFNode pageSep;
+  SoSFNode frame;
+  SoSFNode buttonsSep;
+  SoSFNode lButtonSep;
+  SoSFNode lButtonSwtch;
+  SoSFNode lButtonReleased;
+  SoSFNode lButtonPressed;
+  SoSFNode rButtonSep;
+  SoSFNode rButtonSwtch;
+  SoSFNode rButtonReleased;
+  SoSFNode rButtonPressed;
+
 private:
   void createTabWidget();
   void createTabPageWidget(int page);
@@ -101,8 +137,48 @@ private:
   void childrenChanged();
   void create3DTabDialog();
   void update3DTabDialog();
+  void update3DTabDialogPage(int page);
+  void makeTab();
   void change3DSelectedPage();
+  void change3DFirstPageRight();
+  void change3DFirstPageLeft();
+  void placeFirstVisibleTab();
+  // Where the pages stand: inside the plate, below the strip.
+  SbVec3f pageOrigin();
+  void draggerStartCallback3D();
+  void draggerFinishCallback3D();
+  static void startCB3D(void* data, SoDragger* dragger);
+  static void finishCB3D(void* data, SoDragger* dragger);
   static void childrenSensor(void* data, SoSensor* sensor);
 
   SoNodeSensor* childrenNodeSensor = nullptr;
+
+  // The nodes of one page's tab in the strip.
+  struct Tab {
+    SoSwitch* tabSwitch;
+    SoSwitch* selectedSwitch;
+    SoSeparator* frameSeparator;
+    SoTransform* transform;
+    SoTranslation* translation;
+    SoText3* text;
+    SoScale* scale;
+    SoTranslation* textTranslation;
+  };
+  int32_t tabHeight = 20;
+  // Whether the clip planes cut the strip; a tab cut by them still shows.
+  int32_t clipTabs = 1;
+  // A press chose a tab: one cut at the strip's edge scrolls into view.
+  int32_t tabClicked = 0;
+  int32_t firstVisiblePage = 0;
+  int32_t numBuiltPages = 0;
+  // The height of the plate's top, measured once.
+  float depth = -1.0f;
+  // Per page, the width and height of its tab.
+  SoMFVec2f tabSizes;
+  std::vector<Tab> tabs;
+  SoClipPlane* rightClipPlane = nullptr;
+  SoClipPlane* topClipPlane = nullptr;
+  SoScale* frameScale = nullptr;
+  SoTranslation* frameTranslation = nullptr;
+  SoTranslation* buttonsTranslation = nullptr;
 };

@@ -1,14 +1,24 @@
 #include <SoTabDialog.h>
 
 #include <SoTabDialogAuditor.h>
+#include <SoTopLevelDialog.h>
 
 #include "Qt/SoDialogQTabDialog.h"
+#include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoSizeRules.h"
 
+#include <Inventor/SoPath.h>
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/misc/SoChildList.h>
+#include <Inventor/nodes/SoClipPlane.h>
+#include <Inventor/nodes/SoScale.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoText3.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
 #include <Inventor/sensors/SoNodeSensor.h>
 
 #include <QBoxLayout>
@@ -35,6 +45,23 @@ SoTabDialog::SoTabDialog()
   SO_FORMWRIGHT_DEFINE_ENUM_VALUE(TabsLocation, LEFT);
   SO_FORMWRIGHT_DEFINE_ENUM_VALUE(TabsLocation, RIGHT);
   SO_FORMWRIGHT_SET_SF_ENUM_TYPE(tabsLocation, TabsLocation);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(pageSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frame, SoGroup, SoGroup, pageSep, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(pagesSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(buttonsSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(lButtonSep, SoSeparator, SoSeparator, buttonsSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(lButtonSwtch, SoSwitch, SoSwitch, lButtonSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(lButtonReleased, SoGroup, SoGroup, lButtonSwtch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(lButtonPressed, SoGroup, SoGroup, lButtonSwtch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(rButtonSep, SoSeparator, SoSeparator, buttonsSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(rButtonSwtch, SoSwitch, SoSwitch, rButtonSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(rButtonReleased, SoGroup, SoGroup, rButtonSwtch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(rButtonPressed, SoGroup, SoGroup, rButtonSwtch, true);
+  // Never drawn itself: it holds the looks that every tab shares.
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(pageSwitch, SoSwitch, SoSwitch, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(unselected, SoGroup, SoGroup, pageSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(selected, SoGroup, SoGroup, pageSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(textProp, SoGroup, SoGroup, pageSwitch, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
   // The tab widget's frame is the group's frame.
   usesGroupFrame = false;
@@ -439,8 +466,336 @@ void SoTabDialog::setChildrenLabelSize()
   }
 }
 
-// The 3D form of the tabs is made with the 3D pages.
-void SoTabDialog::change3DPages() {}
-void SoTabDialog::create3DTabDialog() {}
-void SoTabDialog::update3DTabDialog() {}
-void SoTabDialog::change3DSelectedPage() {}
+// The scene form: a plate that carries the selected page, with a strip of
+// tabs along its top edge and two buttons that scroll the strip sideways.
+
+namespace {
+// A tab's border around its title, and the narrowest title it allows for.
+constexpr float kTabPadding = 14.0f;
+constexpr float kNarrowestTitle = 25.0f;
+// The frame around the plate and the strip.
+constexpr int32_t kPlateFrame = 3;
+// The strip keeps this much of the plate's width clear for the buttons.
+constexpr int32_t kButtonsRoom = 34;
+constexpr float kButtonSize = 14.0f;
+constexpr float kButtonStep = 16.0f;
+} // namespace
+
+void SoTabDialog::create3DTabDialog()
+{
+  loadFontProperties();
+  loadSkinOnce();
+  setPartAsDefault("selected", "TabDialogSelectedTabFrame", TRUE);
+  setPartAsDefault("unselected", "TabDialogUnselectedTabFrame", TRUE);
+  setPartAsDefault("textProp", "DialogTextProperties", TRUE);
+  setPartAsDefault("lButtonPressed", "TabDialogLeftButtonPressed", TRUE);
+  setPartAsDefault("lButtonReleased", "TabDialogLeftButtonReleased", TRUE);
+  setPartAsDefault("rButtonPressed", "TabDialogRightButtonPressed", TRUE);
+  setPartAsDefault("rButtonReleased", "TabDialogRightButtonReleased", TRUE);
+  setPartAsDefault("frame", "TabDialogFrame", TRUE);
+  setSwitchValue(pageSwitch.getValue(), SO_SWITCH_NONE);
+
+  // The clip planes come first in the strip, the right one ahead.
+  SoGroup* strip = get3DPart("pagesSep");
+  topClipPlane = new SoClipPlane;
+  topClipPlane->on = clipTabs != 0;
+  strip->insertChild(topClipPlane, 0);
+  rightClipPlane = new SoClipPlane;
+  rightClipPlane->on = clipTabs != 0;
+  strip->insertChild(rightClipPlane, 0);
+
+  SoGroup* plate = get3DPart("pageSep");
+  frameScale = new SoScale;
+  plate->insertChild(frameScale, 0);
+  frameTranslation = new SoTranslation;
+  plate->insertChild(frameTranslation, 0);
+
+  buttonsTranslation = new SoTranslation;
+  get3DPart("buttonsSep")->insertChild(buttonsTranslation, 0);
+  for (const char* button : {"lButtonSep", "rButtonSep"}) {
+    auto* scale = new SoScale;
+    scale->scaleFactor.setValue(kButtonSize, kButtonSize, 1.0f);
+    get3DPart(button)->insertChild(scale, 0);
+  }
+  auto* rightButtonStep = new SoTranslation;
+  rightButtonStep->translation.setValue(kButtonStep, 0.0f, 0.0f);
+  get3DPart("rButtonSep")->insertChild(rightButtonStep, 0);
+  setSwitchValue(lButtonSwtch.getValue(), 0);
+  setSwitchValue(rButtonSwtch.getValue(), 0);
+
+  addStartCallback(&SoTabDialog::startCB3D);
+  addFinishCallback(&SoTabDialog::finishCB3D);
+  depth = -1.0f;
+  change3DPages();
+  setBuilt3D(1);
+  change3DSelectedPage();
+}
+
+void SoTabDialog::update3DTabDialog()
+{
+  const int32_t w = width.getValue() - 2 * kPlateFrame;
+  const int32_t h = height.getValue() - 26;
+  frameScale->scaleFactor.setValue(static_cast<float>(w), static_cast<float>(h), 1.0f);
+  frameTranslation->translation.setValue(0.0f, static_cast<float>(-tabHeight / 2), 0.0f);
+  buttonsTranslation->translation.setValue(static_cast<float>(w / 2 - 26),
+                                           static_cast<float>(height.getValue() / 2 - 13), 0.0f);
+  rightClipPlane->plane = SbPlane(SbVec3f(-1.0f, 0.0f, 0.0f), static_cast<float>(-w / 2 + kButtonsRoom));
+  topClipPlane->plane = SbPlane(SbVec3f(0.0f, 1.0f, 0.0f), static_cast<float>((h - tabHeight) / 2));
+  change3DPages();
+}
+
+SbVec3f SoTabDialog::pageOrigin()
+{
+  SbVec3f origin(0.0f, 0.0f, 0.0f);
+  apply3DTranslation(pageSep.getValue(), depth, origin);
+  origin[0] += kPlateFrame;
+  origin[1] -= static_cast<float>(tabHeight + kPlateFrame);
+  return origin;
+}
+
+void SoTabDialog::change3DPages()
+{
+  if (!frameScale)
+    return;
+  SbVec2i32 pageArea(width.getValue(), height.getValue());
+  fixSizeWithBorder(pageArea, -1);
+  const SbVec3f origin = pageOrigin();
+  for (int i = 0; i < numChildren; ++i) {
+    SoDialogComponent* child = getComponent(i);
+    SbVec3f childOrigin = origin;
+    child->set3DParentTranslation(childOrigin);
+    // Each page's component fills the page, 2 in from the plate's corner.
+    SbVec2i32 size = pageArea;
+    SbVec2i32 place(2, 2);
+    child->buildWidget(nullptr, size, place, 0);
+    if (i >= static_cast<int>(tabs.size()))
+      makeTab();
+    update3DTabDialogPage(i);
+  }
+  // The clip planes stand ahead of the tabs in the strip.
+  auto* strip = static_cast<SoGroup*>(pagesSep.getValue());
+  while (static_cast<int>(tabs.size()) > numChildren) {
+    strip->removeChild(static_cast<int>(tabs.size()) + 1);
+    tabs.pop_back();
+  }
+  tabSizes.setNum(numChildren);
+
+  if (numBuiltPages != numChildren && parentNode) {
+    numBuiltPages = numChildren;
+    if (isBuilt3D()) {
+      resetSize();
+      if (parentNode->isOfType(SoTopLevelDialog::getClassTypeId()))
+        static_cast<SoTopLevelDialog*>(parentNode)->updateAfterSceneGraphChange();
+      else if (parentNode->isOfType(SoDialogGroup::getClassTypeId()))
+        static_cast<SoDialogGroup*>(parentNode)->updateAfterSceneGraphChange();
+    }
+  }
+  numBuiltPages = numChildren;
+  if (isBuilt2D())
+    changeSelectedPage();
+  if (follows3DForm())
+    change3DSelectedPage();
+}
+
+void SoTabDialog::makeTab()
+{
+  Tab tab{};
+  tab.tabSwitch = new SoSwitch;
+  tab.tabSwitch->whichChild = SO_SWITCH_NONE;
+  static_cast<SoGroup*>(pagesSep.getValue())->addChild(tab.tabSwitch);
+  tab.translation = new SoTranslation;
+  tab.tabSwitch->addChild(tab.translation);
+  auto* tabSeparator = new SoSeparator;
+  tab.tabSwitch->addChild(tabSeparator);
+
+  tab.frameSeparator = new SoSeparator;
+  tabSeparator->addChild(tab.frameSeparator);
+  tab.scale = new SoScale;
+  tab.frameSeparator->addChild(tab.scale);
+  tab.selectedSwitch = new SoSwitch;
+  tab.selectedSwitch->addChild(unselected.getValue());
+  tab.selectedSwitch->addChild(selected.getValue());
+  tab.frameSeparator->addChild(tab.selectedSwitch);
+  // The title stands on the tab's top, whatever its look.
+  tab.transform = new SoTransform;
+  tabSeparator->addChild(tab.transform);
+
+  auto* titleSeparator = new SoSeparator;
+  tabSeparator->addChild(titleSeparator);
+  tab.textTranslation = new SoTranslation;
+  titleSeparator->addChild(tab.textTranslation);
+  titleSeparator->addChild(textProp.getValue());
+  tab.text = SoControl3D::newFrontText();
+  titleSeparator->addChild(tab.text);
+  tabs.push_back(tab);
+}
+
+void SoTabDialog::update3DTabDialogPage(int page)
+{
+  Tab& tab = tabs[page];
+  SoControl3D::clearText(tab.text);
+  setStringToText3(tab.text, convertToCString(getComponent(page)->label.getValue(), getComponent(page)));
+  setSwitchValue(tab.tabSwitch, SO_SWITCH_ALL);
+  setSwitchValue(tab.selectedSwitch, page == selectedPage.getValue() ? 1 : 0);
+
+  const SbBox3f box = SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(textProp.getValue()), tab.text));
+  const float titleWidth = std::max(box.getMax()[0] - box.getMin()[0], kNarrowestTitle);
+  const float tabWidth = titleWidth + kTabPadding;
+  tab.scale->scaleFactor.setValue(tabWidth, static_cast<float>(tabHeight), 1.0f);
+  tabSizes.set1Value(page, SbVec2f(tabWidth, static_cast<float>(tabHeight)));
+  // Each tab's translation goes on from the tab before: the strip's tabs
+  // share one group, and a hidden tab passes on no translation.
+  if (page == firstVisiblePage)
+    placeFirstVisibleTab();
+  else
+    tab.translation->translation.setValue(tabSizes[page - 1][0] / 2 + tabWidth / 2, 0.0f, 0.0f);
+  undoTransformMatrix(tab.frameSeparator, tab.transform);
+  tab.textTranslation->translation.setValue(-titleWidth / 2, -(box.getMax()[1] + box.getMin()[1]) / 2, 0.0f);
+}
+
+void SoTabDialog::placeFirstVisibleTab()
+{
+  const float x = static_cast<float>(-(width.getValue() - 2 * kPlateFrame) / 2) + tabSizes[firstVisiblePage][0] / 2;
+  const float y = static_cast<float>(((height.getValue() - 2 * kPlateFrame) - tabHeight) / 2);
+  tabs[firstVisiblePage].translation->translation.setValue(x, y, 0.0f);
+}
+
+void SoTabDialog::change3DSelectedPage()
+{
+  const auto isPage = [this](int32_t page) { return page >= 0 && page < numChildren; };
+  if (!isPage(selectedPage.getValue())) {
+    setSelectedPage(previousSelectedPage);
+    if (!isPage(previousSelectedPage)) {
+      previousSelectedPage = 0;
+      setSelectedPage(0);
+    }
+  }
+  const int32_t page = selectedPage.getValue();
+  for (int i = 0; i < numChildren; ++i)
+    getComponent(i)->show3D(i == page && shown3D);
+
+  // Tabs show from the first visible one on while they fit; the one that
+  // the right clip plane cuts shows as well.
+  const int count = std::min(static_cast<int>(tabs.size()), static_cast<int>(numChildren));
+  const float stripWidth = static_cast<float>(width.getValue() - 2 * kPlateFrame);
+  const float fullTabsWidth = static_cast<float>(width.getValue() - 40);
+  float sum = 0.0f;
+  int lastFullTab = -1;
+  for (int i = 0; i < count; ++i) {
+    if (i >= firstVisiblePage)
+      sum += tabSizes[i][0];
+    setSwitchValue(tabs[i].tabSwitch, stripWidth > sum && i >= firstVisiblePage ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+    setSwitchValue(tabs[i].selectedSwitch, i == page ? 1 : 0);
+    undoTransformMatrix(tabs[i].frameSeparator, tabs[i].transform);
+    if (fullTabsWidth > sum)
+      lastFullTab = i;
+  }
+  if (clipTabs) {
+    const int next = lastFullTab + 1;
+    if (next < count) {
+      setSwitchValue(tabs[next].tabSwitch, SO_SWITCH_ALL);
+      setSwitchValue(tabs[next].selectedSwitch, next == page ? 1 : 0);
+      // A tab chosen at the cut edge scrolls into view.
+      if (tabClicked && next == page)
+        change3DFirstPageRight();
+    }
+  }
+  if (previousSelectedPage != page)
+    change3DPosition();
+  previousSelectedPage = page;
+}
+
+void SoTabDialog::change3DPosition()
+{
+  const int32_t page = selectedPage.getValue();
+  if (!frameScale || page < 0 || page >= numChildren)
+    return;
+  SbVec3f origin = pageOrigin();
+  getComponent(page)->set3DParentTranslation(origin);
+  getComponent(page)->change3DPosition();
+}
+
+void SoTabDialog::show3D(int show)
+{
+  for (int i = 0; i < numChildren; ++i)
+    getComponent(i)->show3D(show != 0 && i == selectedPage.getValue());
+  SoDialogComponent::show3D(show);
+}
+
+void SoTabDialog::change3DFirstPageRight()
+{
+  setSwitchValue(rButtonSwtch.getValue(), 0);
+  if (tabs.empty())
+    return;
+  if (firstVisiblePage < numChildren - 1)
+    ++firstVisiblePage;
+  placeFirstVisibleTab();
+  if (firstVisiblePage != 0)
+    setSwitchValue(tabs[firstVisiblePage - 1].tabSwitch, SO_SWITCH_NONE);
+  tabClicked = 0;
+  change3DSelectedPage();
+}
+
+void SoTabDialog::change3DFirstPageLeft()
+{
+  setSwitchValue(lButtonSwtch.getValue(), 0);
+  if (tabs.empty())
+    return;
+  if (firstVisiblePage != 0)
+    --firstVisiblePage;
+  setSwitchValue(tabs[firstVisiblePage].tabSwitch, SO_SWITCH_ALL);
+  placeFirstVisibleTab();
+  const int first = firstVisiblePage;
+  if (first < numChildren - 1)
+    tabs[first + 1].translation->translation.setValue((tabSizes[first][0] + tabSizes[first + 1][0]) / 2, 0.0f,
+                                                      0.0f);
+  tabClicked = 0;
+  change3DSelectedPage();
+}
+
+void SoTabDialog::startCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoTabDialog*>(dragger)->draggerStartCallback3D();
+}
+
+void SoTabDialog::finishCB3D(void*, SoDragger* dragger)
+{
+  static_cast<SoTabDialog*>(dragger)->draggerFinishCallback3D();
+}
+
+void SoTabDialog::draggerStartCallback3D()
+{
+  const SoPath* path = getPickPath();
+  if (!path)
+    return;
+  // A scroll button only shows itself down: the strip moves at the release.
+  if (path->containsNode(rButtonSep.getValue())) {
+    setSwitchValue(rButtonSwtch.getValue(), 1);
+    return;
+  }
+  if (path->containsNode(lButtonSep.getValue())) {
+    setSwitchValue(lButtonSwtch.getValue(), 1);
+    return;
+  }
+  int page = -1;
+  for (int i = 0; i < static_cast<int>(tabs.size()); ++i)
+    if (path->containsNode(tabs[i].tabSwitch))
+      page = i;
+  if (page < 0 || page == selectedPage.getValue())
+    return;
+  tabClicked = 1;
+  // The person chose the page, as with a tab of the 2D form.
+  eventNotify(static_cast<unsigned int>(page), 0);
+}
+
+void SoTabDialog::draggerFinishCallback3D()
+{
+  // The toolkit has forgotten the pick by now: the press's copy tells.
+  const SoPath* path = getPressPath();
+  if (!path || !follows3DForm())
+    return;
+  if (path->containsNode(rButtonSep.getValue()))
+    change3DFirstPageRight();
+  else if (path->containsNode(lButtonSep.getValue()))
+    change3DFirstPageLeft();
+}
