@@ -9,6 +9,7 @@
 #include <SoMenuRadioButtons.h>
 #include <SoMenuSeparator.h>
 
+#include <Inventor/details/SoNodeKitDetail.h>
 #include <Inventor/nodes/SoSwitch.h>
 
 #include <gtest/gtest.h>
@@ -103,6 +104,16 @@ TEST_F(SceneMenu, aPopupOpensInFrontOfItsDialogAndOnlyOneStaysOpen)
   EXPECT_EQ(push->getItemSize()[0], radio->getItemSize()[0]) << "all entries of one popup have one width";
   EXPECT_NEAR(entry.getMin()[2], front, 0.01f) << "the items lie on the dialog's front";
 
+  // A pick names the entry and the look it hit: the button on its frame.
+  SoRayPickAction pick(scene.viewport);
+  pick.setPoint(Scene::pixel(entry.getCenter()[0], entry.getCenter()[1]));
+  pick.apply(scene.root);
+  ASSERT_NE(pick.getPickedPoint(), nullptr);
+  const auto* detail = dynamic_cast<const SoNodeKitDetail*>(pick.getPickedPoint()->getDetail(push));
+  ASSERT_NE(detail, nullptr);
+  EXPECT_EQ(detail->getNodeKit(), push);
+  EXPECT_STREQ(detail->getPartName().getString(), "released");
+
   clickTitle(edit);
   EXPECT_FALSE(file->isOpen3D()) << "opening a second popup closes the first";
   EXPECT_TRUE(edit->isOpen3D());
@@ -120,6 +131,7 @@ TEST_F(SceneMenu, entriesFireAtReleaseAndCloseTheMenu)
   scene.button(SoButtonEvent::DOWN, x, -50.0f);
   EXPECT_EQ(push->look(), 1);
   EXPECT_TRUE(heard.events.empty()) << "an entry fires at release";
+  EXPECT_TRUE(file->isOpen3D()) << "a press on an entry keeps its menu open";
   scene.button(SoButtonEvent::UP, x, -50.0f);
   EXPECT_EQ(push->look(), 0);
   EXPECT_EQ(heard.events, std::vector<std::string>{"push"});

@@ -83,6 +83,8 @@ void SoMenuItem::create3DItem(int)
   // Built before the label is set, so that its box is measured once.
   setBuilt3D(1);
   change3DLabel();
+  // Shown unless its holder hides it: a popup alone has no other.
+  show3D(1);
 }
 
 void SoMenuItem::moveLabelToEnd()
