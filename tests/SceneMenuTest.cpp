@@ -164,6 +164,12 @@ TEST_F(SceneMenu, aCascadeOpensRightOfItsItemAtItsTop)
   const SbBox3f entry = boxOf(inner);
   EXPECT_NEAR(entry.getMin()[0], 4.0f + width, 0.01f);
   EXPECT_NEAR(entry.getMax()[1], top, 0.01f);
+
+  auto* wide = makeNode<SoMenuPushButton>();
+  wide->label = "A much longer entry";
+  cascade->addChild(wide);
+  EXPECT_NEAR(boxOf(wide).getMax()[1], top - 18.0f, 0.01f) << "an entry added later hangs below the others";
+  EXPECT_EQ(inner->getItemSize()[0], wide->getItemSize()[0]);
 }
 
 TEST_F(SceneMenu, thePlateHoldsItsChildrenWithABarAndAnEmptyBarHides)

@@ -150,6 +150,9 @@ void SoMenuBar::update3DChildrenSize()
 
 void SoMenuBar::show3D(int show)
 {
+  // A hidden bar leaves no menu open in the air.
+  if (!show)
+    show3DChildren(0);
   for (int i = 0; i < numChildren; ++i)
     if (childList().at(i)->isBuilt3D())
       childList().at(i)->show3D(show);
@@ -308,7 +311,13 @@ void SoMenuBar::buildNewChild(SoMenuPopup* child, int position)
   updateAfterSceneGraphChange();
 }
 
-void SoMenuBar::updateAfterSceneGraphChange() {}
+void SoMenuBar::updateAfterSceneGraphChange()
+{
+  if (!isBuilt3D())
+    return;
+  update3DChildrenSize();
+  update3DChildren();
+}
 
 SoChildList* SoMenuBar::getChildren() const
 {

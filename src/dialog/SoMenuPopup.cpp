@@ -380,7 +380,14 @@ void SoMenuPopup::buildNewChild(SoMenuItem* child, int position)
   updateAfterSceneGraphChange();
 }
 
-void SoMenuPopup::updateAfterSceneGraphChange() {}
+void SoMenuPopup::updateAfterSceneGraphChange()
+{
+  if (!isBuilt3D())
+    return;
+  update3DChildrenSize();
+  update3DChildren();
+  change3DPosition();
+}
 
 SoChildList* SoMenuPopup::getChildren() const
 {
