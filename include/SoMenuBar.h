@@ -11,6 +11,10 @@ class SoChildList;
 class SoDialogAuditor;
 class SoInput;
 class SoMenuPopup;
+class SoRayPickAction;
+class SoScale;
+class SoTransform;
+class SoTranslation;
 class SoWriteAction;
 template <class Owner, class Child>
 class SoFormwrightChildren;
@@ -61,6 +65,15 @@ public:
   // Only the scene form lays a menu out again after a change.
   virtual void updateAfterSceneGraphChange();
 
+  // The scene form: every title takes its own width, side by side.
+  void update3DChildrenSize();
+  // Opens (1) or closes (0) every popup of the bar.
+  void show3DChildren(int show);
+  void show3D(int show) override;
+  void change3DPosition() override;
+  // Picks see the interface nodes below as leaves.
+  void rayPick(SoRayPickAction* action) override;
+
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
   void addWriteReference(SoOutput* out, SbBool isFromField = FALSE) override;
@@ -82,6 +95,16 @@ protected:
 
 private:
   void createMenuBar(QWidget* parent);
+  void create3DBar();
+  void update3DBar();
+  void update3DChildren();
+  // The origin of the titles: the bar's own, on top of its strip.
+  SbVec3f titlesOrigin();
+
+  SoScale* barScale = nullptr;
+  SoTranslation* barTranslation = nullptr;
+  SoTransform* barTransform = nullptr;
+  float depth = -1.0f;
   // Builds a child that joined a built bar.
   void buildNewChild(SoMenuPopup* child, int position);
 

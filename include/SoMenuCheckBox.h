@@ -7,6 +7,7 @@
 
 class SoMenuCheckBoxAuditor;
 class SoMenuQCheckBox;
+class SoTranslation;
 
 // A menu entry with a check mark, which each choice turns over.
 class SoMenuCheckBox : public SoMenuItem {
@@ -42,9 +43,15 @@ protected:
 
   void changeLabel() override;
   void changeEnable() override;
-  // The 3D form; empty until the in-scene presentation is built.
   void change3DState();
   void change3DOnString();
+  void change3DLabel() override;
+  SbString shown3DLabel() const override;
+
+  SoSFNode chkSep;
+  SoSFNode chkSwtch;
+  SoSFNode stateOff;
+  SoSFNode stateOn;
 
   SoMenuQCheckBox* menuItem = nullptr;
   SoFieldSensor* stateSensor = nullptr;
@@ -56,4 +63,9 @@ private:
   void changeState();
   void changeOnString();
   void changeAccelerator();
+  void create3DCheckBox(int position);
+  void update3DCheckBox();
+  static void finishCB3D(void* data, SoDragger* dragger);
+
+  SoTranslation* markTranslation = nullptr;
 };

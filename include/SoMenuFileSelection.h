@@ -49,4 +49,6 @@ protected:
 
   // Runs the dialog, modal and tied to no window, and keeps its answer.
   void openDialogBox();
+  // Chosen in the scene, the entry opens the file dialog as in a window.
+  void draggerFinishCallback3D() override;
 };

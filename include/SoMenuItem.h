@@ -7,7 +7,12 @@
 
 #include <cstdint>
 
+class SoGetBoundingBoxAction;
 class SoMenuBar;
+class SoScale;
+class SoText3;
+class SoTransform;
+class SoTranslation;
 
 // The base of every node below a menu bar: popups, entries, launchers and
 // file selection. An item is no labelled component: it is built into the
@@ -39,8 +44,27 @@ public:
   int getId() const { return id; }
   SbVec2i32 getItemSize() const { return itemSize; }
 
+  // The first traversal builds an item that no one has built.
+  void getBoundingBox(SoGetBoundingBoxAction* action) override;
+
 protected:
   ~SoMenuItem() override;
+
+  // The scene form: an item's origin is its left edge, at mid height.
+  void create3DItem(int position);
+  void update3DItem();
+  // The box of the label as drawn, measured once per text.
+  void get3DLabelCachedBBox(SbVec3f& min, SbVec3f& max);
+  void change3DLabel() override;
+  // Whether the item lies in a bar that draws the strip for it: such an
+  // item has no frame of its own.
+  bool standsOnTraversableBar() const;
+  // Whether the item hangs in a popup (or a launcher), not on a bar nor alone.
+  bool hangsInMenu() const;
+  // Later layers must be drawn over the earlier ones: the label goes last.
+  void moveLabelToEnd();
+  // The text the label shows; a check entry shows its on-string when on.
+  virtual SbString shown3DLabel() const;
 
   // The text that Qt reads as a key sequence, from an accelerator as dialog
   // files write it: modifier words ("Ctrl", "shift", "ALT", "Meta", ...) and
@@ -69,4 +93,10 @@ protected:
   SoSFNode frame;
   SoSFNode labelSep;
   SoSFNode labelProp;
+
+  SoScale* frameScale = nullptr;
+  SoTranslation* frameTranslation = nullptr;
+  SoTransform* frameTransform = nullptr;
+  SoTranslation* labelTranslation = nullptr;
+  SoText3* labelText = nullptr;
 };

@@ -10,6 +10,7 @@ class QMenu;
 class SoChildList;
 class SoDialogAuditor;
 class SoInput;
+class SoRayPickAction;
 class SoWriteAction;
 template <class Owner, class Child>
 class SoFormwrightChildren;
@@ -55,6 +56,15 @@ public:
   // Only the scene form lays a menu out again after a change.
   virtual void updateAfterSceneGraphChange();
 
+  // The scene form. A popup is open when its items show.
+  void show3DChildren(int show);
+  int isOpen3D() const { return childrenShown; }
+  void update3DChildren();
+  // All the items of one popup take the width of the widest.
+  void update3DChildrenSize();
+  void change3DPosition() override;
+  void rayPick(SoRayPickAction* action) override;
+
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
   void addWriteReference(SoOutput* out, SbBool isFromField = FALSE) override;
@@ -72,8 +82,34 @@ protected:
   QPointer<QMenu> menu;
   int32_t firstBuild = 1;
 
+  void set3DInactive() override;
+  void change3DLabel() override;
+  void draggerStartCallback3D();
+
+  SoSFNode frameSep;
+  SoSFNode frameSwitch;
+  SoSFNode released;
+  SoSFNode pressed;
+  SoSFNode shapeReleased;
+  SoSFNode shapePressed;
+
 private:
   void insertMenuItem(int position);
+  void create3DPopup(int position);
+  void update3DPopup();
+  // A cascade hangs in another popup, on a traversable parent.
+  bool isCascade() const;
+  // The items' origin: the title's own on top of its frame; a cascade's
+  // starts at its item's right edge, at its top.
+  SbVec3f itemsOrigin();
+  void place3DChildren(SbVec3f pos, bool build);
+  static void startCB3D(void* data, SoDragger* dragger);
+
+  SoScale* buttonScale = nullptr;
+  SoTranslation* buttonTranslation = nullptr;
+  SoTransform* buttonTransform = nullptr;
+  int32_t childrenShown = 0;
+  float depth = -1.0f;
   // Builds a child that joined a built popup.
   void buildNewChild(SoMenuItem* child, int position);
 

@@ -6,6 +6,8 @@
 
 class SoMenuPushButtonAuditor;
 class SoMenuQPushButton;
+class SoScale;
+class SoTransform;
 
 // A menu entry that acts when chosen. Its label is the entry's text.
 class SoMenuPushButton : public SoMenuItem {
@@ -33,6 +35,14 @@ protected:
 
   void changeLabel() override;
   void changeEnable() override;
+  void change3DLabel() override;
+  // The entry was chosen in the scene: its auditors hear of it.
+  virtual void draggerFinishCallback3D();
+
+  SoSFNode btnSep;
+  SoSFNode btnSwtch;
+  SoSFNode released;
+  SoSFNode pressed;
 
   SoMenuQPushButton* menuItem = nullptr;
   SoFieldSensor* acceleratorSensor = nullptr;
@@ -40,4 +50,12 @@ protected:
 private:
   void insertMenuItem(int position);
   void changeAccelerator();
+  void create3DPushButton(int position);
+  void update3DPushButton();
+  void change3DButtonState(int pressedNow);
+  static void startCB3D(void* data, SoDragger* dragger);
+  static void finishCB3D(void* data, SoDragger* dragger);
+
+  SoScale* buttonScale = nullptr;
+  SoTransform* buttonTransform = nullptr;
 };

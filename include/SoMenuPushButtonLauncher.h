@@ -23,6 +23,8 @@ public:
   SoMenuPushButtonLauncher();
 
   void menuEvent(void* data, int id) override;
+  // The dialogs to launch stay hidden in the scene below their entry.
+  void buildMenu(void* menuParent, int is2D, int position) override;
   // Depth first through the dialogs.
   SoFormwright* searchForAuditorId(SbString id);
 

@@ -4,11 +4,14 @@
 
 #include <Inventor/fields/SoMFString.h>
 #include <Inventor/fields/SoSFInt32.h>
+#include <Inventor/lists/SoNodeList.h>
 
 #include <cstdint>
 
 class SoMenuQRadioButtons;
 class SoMenuRadioButtonsAuditor;
+class SoScale;
+class SoTranslation;
 
 // A group of mutually exclusive entries, one per value of `items`, standing
 // one after the other in their menu. The node's own label shows nowhere.
@@ -49,9 +52,22 @@ protected:
 
   void changeLabel() override;
   void changeEnable() override;
-  // The 3D form; empty until the in-scene presentation is built.
   void change3DSelectedItem();
+  // Items come and go at the end; texts and the popup's layout follow.
   void change3DItems();
+  SbString shown3DLabel() const override;
+
+  SoSFNode radioSep;
+  SoSFNode itemsSep;
+  SoSFNode itemSwtch;
+  SoSFNode stateOff;
+  SoSFNode stateOn;
+
+  // One entry per item of the scene form.
+  SoNodeList itemSeparators;
+  SoNodeList itemSwitches;
+  SoNodeList itemTexts;
+  SoNodeList itemTextTranslations;
 
   SoFieldSensor* selectedItemSensor = nullptr;
   SoFieldSensor* itemsSensor = nullptr;
@@ -68,4 +84,12 @@ private:
   // The group is made anew at the end of its menu, with new action numbers.
   void changeItems();
   void changeAccelerators();
+  void create3DRadioButtons(int position);
+  void update3DRadioButtons();
+  void add3DItem(int index);
+  static void finishCB3D(void* data, SoDragger* dragger);
+
+  SoTranslation* firstItemTranslation = nullptr;
+  SoTranslation* markTranslation = nullptr;
+  SoScale* markScale = nullptr;
 };

@@ -2,6 +2,8 @@
 
 #include "SoMenuItem.h"
 
+class SoScale;
+
 // A line between menu entries.
 class SoMenuSeparator : public SoMenuItem {
   SO_FORMWRIGHT_HEADER(SoMenuSeparator)
@@ -17,4 +19,13 @@ public:
 
 protected:
   ~SoMenuSeparator() override;
+
+  SoSFNode sepSep;
+  SoSFNode sepFrame;
+
+private:
+  void create3DSeparator(int position);
+  void update3DSeparator();
+
+  SoScale* lineScale = nullptr;
 };

@@ -8,8 +8,12 @@
 #include "SoFormwrightSubNodeSource.h"
 #include "SoMenuChildren.h"
 
+#include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoScale.h>
 #include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
 
 #include <QLayout>
 #include <QMenuBar>
@@ -43,8 +47,128 @@ void SoMenuBar::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size
   if (mode != 0) {
     createMenuBar(parent);
     updateChildren();
+  } else {
+    if (!isBuilt3D())
+      create3DBar();
+    update3DBar();
+    update3DChildren();
   }
   firstBuild = 0;
+}
+
+void SoMenuBar::create3DBar()
+{
+  loadFontProperties();
+  loadSkinOnce();
+  setPartAsDefault("frame", "MenuBarFrame", TRUE);
+  SoGroup* switchNode = get3DPart("geomSwitch");
+  SoGroup* frameGroup = get3DPart("frameSep");
+  barScale = new SoScale;
+  frameGroup->insertChild(barScale, 0);
+  barTranslation = new SoTranslation;
+  switchNode->insertChild(barTranslation, switchNode->findChild(frameGroup));
+  barTransform = new SoTransform;
+  switchNode->addChild(barTransform);
+  apply3DParentTranslation();
+  setBuilt3D(1);
+  depth = -1.0f;
+  update3DChildrenSize();
+  show3DChildren(0);
+  show3D(1);
+}
+
+void SoMenuBar::update3DBar()
+{
+  int32_t w = 0;
+  if (parentNode && parentNode->isOfType(SoTopLevelDialog::getClassTypeId())) {
+    auto* window = static_cast<SoTopLevelDialog*>(parentNode);
+    if (!window->isBuilt3D()) {
+      SbVec2i32 size, min, max;
+      window->getSize(size, min, max);
+      w = size[0];
+    } else {
+      w = window->width.getValue();
+    }
+  }
+  // An empty bar says nothing in the scene when the window shows its own.
+  if (numChildren == 0 && buildMode)
+    show3D(0);
+  else
+    barScale->scaleFactor.setValue(static_cast<float>(w - 6), 20.0f, 1.0f);
+  barTranslation->translation.setValue(static_cast<float>((w - 6) / 2 - 1), 10.0f, 0.0f);
+  undoTransformMatrix(frameSep.getValue(), barTransform);
+}
+
+SbVec3f SoMenuBar::titlesOrigin()
+{
+  SbVec3f origin(0.0f, 0.0f, 0.0f);
+  apply3DTranslation(frameSep.getValue(), depth, origin);
+  return origin;
+}
+
+void SoMenuBar::update3DChildren()
+{
+  SbVec3f pos = titlesOrigin();
+  for (int i = 0; i < numChildren; ++i) {
+    SoMenuPopup* child = childList().at(i);
+    child->set3DParentTranslation(pos);
+    child->buildMenu(menuBar.data(), 0, i);
+    child->show3D(shown3D);
+    pos[0] += static_cast<float>(child->getItemSize()[0] + 1);
+  }
+  if (parentNode)
+    return;
+  // A bar of its own is as long as its titles.
+  const float w = pos[0] - parentTranslation[0];
+  if (numChildren != 0)
+    barScale->scaleFactor.setValue(w + 1, 20.0f, 1.0f);
+  else
+    show3D(0);
+  barTranslation->translation.setValue((w + 1) / 2 - 1, 10.0f, 0.0f);
+}
+
+void SoMenuBar::change3DPosition()
+{
+  if (!isBuilt3D())
+    return;
+  SbVec3f pos = titlesOrigin();
+  for (int i = 0; i < numChildren; ++i) {
+    SoMenuPopup* child = childList().at(i);
+    child->set3DParentTranslation(pos);
+    child->change3DPosition();
+    pos[0] += static_cast<float>(child->getItemSize()[0] + 1);
+  }
+}
+
+void SoMenuBar::update3DChildrenSize()
+{
+  for (int i = 0; i < numChildren; ++i) {
+    SoMenuPopup* child = childList().at(i);
+    child->setItemSize(child->getItemInitSize(), 1);
+  }
+}
+
+void SoMenuBar::show3D(int show)
+{
+  // A hidden bar leaves no menu open in the air.
+  if (!show)
+    show3DChildren(0);
+  for (int i = 0; i < numChildren; ++i)
+    if (childList().at(i)->isBuilt3D())
+      childList().at(i)->show3D(show);
+  SoFormwright::show3D(show);
+}
+
+void SoMenuBar::show3DChildren(int show)
+{
+  for (int i = 0; i < numChildren; ++i)
+    childList().at(i)->show3DChildren(show);
+}
+
+void SoMenuBar::rayPick(SoRayPickAction* action)
+{
+  SoDragger::rayPick(action);
+  addInterfaceDetails(action);
 }
 
 void SoMenuBar::createMenuBar(QWidget* parent)
@@ -187,7 +311,13 @@ void SoMenuBar::buildNewChild(SoMenuPopup* child, int position)
   updateAfterSceneGraphChange();
 }
 
-void SoMenuBar::updateAfterSceneGraphChange() {}
+void SoMenuBar::updateAfterSceneGraphChange()
+{
+  if (!isBuilt3D())
+    return;
+  update3DChildrenSize();
+  update3DChildren();
+}
 
 SoChildList* SoMenuBar::getChildren() const
 {

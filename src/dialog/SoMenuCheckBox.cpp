@@ -1,10 +1,18 @@
 #include <SoMenuCheckBox.h>
 
+#include <SoMenuBar.h>
 #include <SoMenuCheckBoxAuditor.h>
 
 #include "Qt/SoMenuQCheckBox.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
+
+#include <Inventor/SoPath.h>
+#include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoScale.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoTranslation.h>
 
 #include <QMenu>
 
@@ -18,6 +26,10 @@ SoMenuCheckBox::SoMenuCheckBox()
   SO_FORMWRIGHT_ADD_FIELD(state, FALSE);
   SO_FORMWRIGHT_ADD_FIELD(onString, "");
   SO_FORMWRIGHT_ADD_FIELD(accelerator, "");
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(chkSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(chkSwtch, SoSwitch, SoSwitch, chkSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(stateOff, SoGroup, SoGroup, chkSwtch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(stateOn, SoGroup, SoGroup, chkSwtch, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
@@ -47,9 +59,15 @@ void SoMenuCheckBox::applyDlgCptAuditor()
 
 void SoMenuCheckBox::buildMenu(void* holder, int is2D, int position)
 {
+  const bool first3D = !is2D && !isBuilt3D();
   SoMenuItem::buildMenu(holder, is2D, position);
   if (is2D && !menuItem)
     insertMenuItem(position);
+  if (!is2D) {
+    if (first3D)
+      create3DCheckBox(position);
+    update3DCheckBox();
+  }
   makeFieldSensor(stateSensor, state);
   makeFieldSensor(onStringSensor, onString);
   makeFieldSensor(acceleratorSensor, accelerator);
@@ -137,5 +155,73 @@ SbVec2i32 SoMenuCheckBox::getItemInitSize()
   return SbVec2i32(std::max(labelWidth, onWidth) + 28, 18);
 }
 
-void SoMenuCheckBox::change3DState() {}
-void SoMenuCheckBox::change3DOnString() {}
+namespace {
+// The mark fills half the 20 units left of the text.
+const float kMarkSize = 10.0f;
+}
+
+void SoMenuCheckBox::create3DCheckBox(int)
+{
+  loadSkinOnce();
+  setPartAsDefault("stateOff", "MenuCheckBoxStateOff", TRUE);
+  setPartAsDefault("stateOn", "MenuCheckBoxStateOn", TRUE);
+  SoGroup* markGroup = get3DPart("chkSep");
+  auto* markScale = new SoScale;
+  markScale->scaleFactor.setValue(kMarkSize, kMarkSize, 1.0f);
+  markGroup->insertChild(markScale, 0);
+  markTranslation = new SoTranslation;
+  markGroup->insertChild(markTranslation, 0);
+  moveLabelToEnd();
+  addFinishCallback(&SoMenuCheckBox::finishCB3D);
+  change3DState();
+}
+
+void SoMenuCheckBox::update3DCheckBox()
+{
+  SbVec3f min, max;
+  get3DLabelCachedBBox(min, max);
+  const float w = static_cast<float>(itemSize[0]);
+  markTranslation->translation.setValue(-w / 2 + 10, 0.0f, 0.0f);
+  labelTranslation->translation.setValue(-w / 2 + 20, -(max[1] - min[1]) / 2, 0.0f);
+}
+
+SbString SoMenuCheckBox::shown3DLabel() const
+{
+  if (!state.getValue() || onString.getValue().getLength() == 0)
+    return label.getValue();
+  return onString.getValue();
+}
+
+void SoMenuCheckBox::change3DLabel()
+{
+  SoMenuItem::change3DLabel();
+  if (markTranslation)
+    update3DCheckBox();
+}
+
+void SoMenuCheckBox::change3DState()
+{
+  setSwitchValue(chkSwtch.getValue(), state.getValue() ? 1 : 0);
+  change3DLabel();
+}
+
+void SoMenuCheckBox::change3DOnString()
+{
+  change3DLabel();
+}
+
+void SoMenuCheckBox::finishCB3D(void*, SoDragger* dragger)
+{
+  auto* box = static_cast<SoMenuCheckBox*>(dragger);
+  const SoPath* path = box->getPressPath();
+  if (!path || !path->containsNode(box))
+    return;
+  setFieldUnwatched(box->state, box->stateSensor, !box->state.getValue());
+  box->applyDlgCptAuditor();
+  if (SoMenuBar* bar = box->getMenuBar())
+    bar->show3DChildren(0);
+  if (box->buildMode)
+    box->changeState();
+  if (box->follows3DForm())
+    box->change3DState();
+}

@@ -55,6 +55,11 @@ void SoMenuFileSelection::menuEvent(void*, int)
   openDialogBox();
 }
 
+void SoMenuFileSelection::draggerFinishCallback3D()
+{
+  openDialogBox();
+}
+
 void SoMenuFileSelection::openDialogBox()
 {
   QStringList filters;

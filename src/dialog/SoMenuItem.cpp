@@ -1,12 +1,19 @@
 #include <SoMenuItem.h>
 
 #include <SoMenuBar.h>
+#include <SoMenuPopup.h>
 
+#include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
 
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoScale.h>
 #include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoText3.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
 
 #include <cstdint>
 #include <string>
@@ -27,11 +34,119 @@ SoMenuItem::SoMenuItem()
 
 SoMenuItem::~SoMenuItem() = default;
 
-void SoMenuItem::buildMenu(void* holder, int is2D, int)
+void SoMenuItem::buildMenu(void* holder, int is2D, int position)
 {
   SbVec2i32 useSize(0, 0), size(0, 0);
   SoFormwright::buildWidget(nullptr, useSize, size, is2D);
   menuParent = holder;
+  if (is2D)
+    return;
+  if (!isBuilt3D())
+    create3DItem(position);
+  update3DItem();
+}
+
+bool SoMenuItem::standsOnTraversableBar() const
+{
+  return parentNode && parentNode->isOfType(SoMenuBar::getClassTypeId()) && parentNode->canBeTraversed();
+}
+
+bool SoMenuItem::hangsInMenu() const
+{
+  return parentNode && !parentNode->isOfType(SoMenuBar::getClassTypeId());
+}
+
+void SoMenuItem::create3DItem(int)
+{
+  loadFontProperties();
+  SoMenuItem::loadSkinOnce();
+  SoGroup* switchNode = get3DPart("geomSwitch");
+  if (!standsOnTraversableBar()) {
+    setPartAsDefault("frame", "MenuItemFrame", TRUE);
+    SoGroup* frameGroup = get3DPart("itemFrameSep");
+    frameScale = new SoScale;
+    frameGroup->insertChild(frameScale, 0);
+    frameTranslation = new SoTranslation;
+    switchNode->insertChild(frameTranslation, switchNode->findChild(frameGroup));
+    frameTransform = new SoTransform;
+    switchNode->addChild(frameTransform);
+  }
+  setPartAsDefault("labelProp", "DialogTextProperties", TRUE);
+  SoGroup* labelGroup = get3DPart("labelSep");
+  labelTranslation = new SoTranslation;
+  labelGroup->insertChild(labelTranslation, 0);
+  labelText = SoControl3D::newFrontText();
+  labelGroup->addChild(labelText);
+  moveLabelToEnd();
+  apply3DParentTranslation();
+  setItemSize(getItemInitSize(), 0);
+  // Built before the label is set, so that its box is measured once.
+  setBuilt3D(1);
+  change3DLabel();
+  // Shown unless its holder hides it: a popup alone has no other.
+  show3D(1);
+}
+
+void SoMenuItem::moveLabelToEnd()
+{
+  SoGroup* switchNode = get3DPart("geomSwitch");
+  SoNode* labelGroup = labelSep.getValue();
+  labelGroup->ref();
+  switchNode->removeChild(labelGroup);
+  switchNode->addChild(labelGroup);
+  labelGroup->unrefNoDelete();
+}
+
+void SoMenuItem::update3DItem()
+{
+  SbVec3f min, max;
+  get3DLabelCachedBBox(min, max);
+  if (frameScale) {
+    const float w = static_cast<float>(itemSize[0]);
+    frameScale->scaleFactor.setValue(w, static_cast<float>(itemSize[1]), 1.0f);
+    frameTranslation->translation.setValue(w / 2, 0.0f, 0.0f);
+    undoTransformMatrix(itemFrameSep.getValue(), frameTransform);
+  }
+  labelTranslation->translation.setValue(-(max[0] - min[0]) / 2, -(max[1] + min[1]) / 2, 0.0f);
+}
+
+void SoMenuItem::get3DLabelCachedBBox(SbVec3f& min, SbVec3f& max)
+{
+  if (!isLabelCachedBBox())
+    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(labelProp.getValue()), labelText)));
+  const SbBox3f box = getLabelCachedBBox();
+  min = box.getMin();
+  max = box.getMax();
+}
+
+SbString SoMenuItem::shown3DLabel() const
+{
+  return label.getValue();
+}
+
+void SoMenuItem::change3DLabel()
+{
+  SoFormwright::change3DLabel();
+  if (!labelText)
+    return;
+  SoControl3D::clearText(labelText);
+  setStringToText3(labelText, convertToCString(shown3DLabel(), nullptr));
+  if (isBuilt3D())
+    update3DItem();
+}
+
+void SoMenuItem::getBoundingBox(SoGetBoundingBoxAction* action)
+{
+  if (!isBuilt3D()) {
+    const SbBool notified = enableNotify(FALSE);
+    // A popup measured alone must not build the dialog that holds it.
+    SoFormwright* top = isOfType(SoMenuPopup::getClassTypeId()) ? getFirstTopParent(0, 1) : nullptr;
+    if (top && !top->isBuilt3D() && top != this)
+      top->setCanBeTraversed(0);
+    buildMenu(nullptr, 0, -1);
+    enableNotify(notified);
+  }
+  SoFormwright::getBoundingBox(action);
 }
 
 void SoMenuItem::menuEvent(void*, int) {}

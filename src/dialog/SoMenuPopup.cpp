@@ -10,14 +10,32 @@
 #include "SoFormwrightSubNodeSource.h"
 #include "SoMenuChildren.h"
 
+#include <Inventor/SoPath.h>
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoScale.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSwitch.h>
+#include <Inventor/nodes/SoTransform.h>
+#include <Inventor/nodes/SoTranslation.h>
+
 #include <QMenu>
 #include <QMenuBar>
+
+#include <algorithm>
 
 SO_FORMWRIGHT_SOURCE(SoMenuPopup, SoMenuItem, "MenuPopup")
 
 SoMenuPopup::SoMenuPopup()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoMenuPopup);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSep, SoSeparator, SoSeparator, geomSwitch, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(frameSwitch, SoSwitch, SoSwitch, frameSep, false);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(released, SoGroup, SoGroup, frameSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(pressed, SoGroup, SoGroup, frameSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(shapeReleased, SoGroup, SoGroup, frameSwitch, true);
+  SO_FORMWRIGHT_ADD_CATALOG_ENTRY(shapePressed, SoGroup, SoGroup, frameSwitch, true);
   SO_FORMWRIGHT_INIT_INSTANCE();
 }
 
@@ -36,10 +54,199 @@ SoFormwrightChildren<SoMenuPopup, SoMenuItem> SoMenuPopup::fileForm() const
 
 void SoMenuPopup::buildMenu(void* holder, int is2D, int position)
 {
+  const bool first3D = !is2D && !isBuilt3D();
   SoMenuItem::buildMenu(holder, is2D, position);
   if (is2D && !menu)
     insertMenuItem(position);
+  if (!is2D) {
+    if (first3D)
+      create3DPopup(position);
+    update3DPopup();
+    update3DChildren();
+  }
   firstBuild = 0;
+}
+
+bool SoMenuPopup::isCascade() const
+{
+  return hangsInMenu() && canBeTraversed();
+}
+
+void SoMenuPopup::create3DPopup(int)
+{
+  loadSkinOnce();
+  if (hangsInMenu()) {
+    setPartAsDefault("shapeReleased", "MenuPopupReleasedShape", TRUE);
+    setPartAsDefault("shapePressed", "MenuPopupPressedShape", TRUE);
+  } else {
+    setPartAsDefault("released", "MenuPopupReleasedFrame", TRUE);
+    setPartAsDefault("pressed", "MenuPopupPressedFrame", TRUE);
+  }
+  SoGroup* frameGroup = get3DPart("frameSep");
+  buttonScale = new SoScale;
+  frameGroup->insertChild(buttonScale, 0);
+  buttonTranslation = new SoTranslation;
+  frameGroup->insertChild(buttonTranslation, 0);
+  // A cascade's title shows the arrow; the others a block the title stands on.
+  if (isCascade()) {
+    buttonScale->scaleFactor.setValue(14.0f, 14.0f, 1.0f);
+  } else {
+    buttonTransform = new SoTransform;
+    get3DPart("geomSwitch")->addChild(buttonTransform);
+  }
+  setSwitchValue(frameSwitch.getValue(), 0);
+  moveLabelToEnd();
+  addStartCallback(&SoMenuPopup::startCB3D);
+  setBuilt3D(1);
+  depth = -1.0f;
+  update3DChildrenSize();
+  show3DChildren(0);
+}
+
+void SoMenuPopup::update3DPopup()
+{
+  SbVec3f min, max;
+  get3DLabelCachedBBox(min, max);
+  const float w = static_cast<float>(itemSize[0]);
+  const float h = static_cast<float>(itemSize[1]);
+  const float textMiddle = -(max[1] + min[1]) / 2;
+  if (isCascade()) {
+    buttonTranslation->translation.setValue(w / 2 - 10, 0.0f, 0.0f);
+    labelTranslation->translation.setValue(-(max[0] - min[0]) / 2 - 10, textMiddle, 0.0f);
+    return;
+  }
+  if (parentNode && parentNode->canBeTraversed()) {
+    buttonScale->scaleFactor.setValue(w, h, 1.0f);
+    buttonTranslation->translation.setValue(w / 2, 10.0f, 0.0f);
+  } else {
+    frameScale->scaleFactor.setValue(w, h, 1.0f);
+    frameTranslation->translation.setValue(w / 2, h / 2, 0.0f);
+    undoTransformMatrix(itemFrameSep.getValue(), frameTransform);
+    buttonScale->scaleFactor.setValue(w - 2, h - 2, 1.0f);
+    buttonTranslation->translation.setValue(0.0f, 0.0f, 0.0f);
+  }
+  undoTransformMatrix(frameSep.getValue(), buttonTransform);
+  labelTranslation->translation.setValue(-(max[0] - min[0]) / 2, textMiddle, 0.0f);
+}
+
+void SoMenuPopup::change3DLabel()
+{
+  SoMenuItem::change3DLabel();
+  if (buttonScale)
+    update3DPopup();
+}
+
+SbVec3f SoMenuPopup::itemsOrigin()
+{
+  SbVec3f pos(0.0f, 0.0f, 0.0f);
+  apply3DTranslation(frameSep.getValue(), depth, pos);
+  if (isCascade()) {
+    pos[0] += static_cast<float>(itemSize[0]);
+    pos[1] += static_cast<float>(itemSize[1] / 2);
+  }
+  return pos;
+}
+
+// Items hang downward from the title, each centred on its own half height.
+void SoMenuPopup::place3DChildren(SbVec3f pos, bool build)
+{
+  for (int i = 0; i < numChildren; ++i) {
+    SoMenuItem* child = childList().at(i);
+    const float half = static_cast<float>(child->getItemSize()[1] / 2);
+    pos[1] -= half;
+    child->set3DParentTranslation(pos);
+    if (build) {
+      child->buildMenu(menu.data(), 0, i);
+      child->show3D(childrenShown);
+    } else {
+      child->change3DPosition();
+    }
+    pos[1] -= half;
+  }
+}
+
+void SoMenuPopup::update3DChildren()
+{
+  place3DChildren(itemsOrigin(), true);
+}
+
+void SoMenuPopup::change3DPosition()
+{
+  if (!childrenShown)
+    return;
+  SbVec3f pos = itemsOrigin();
+  SoFormwright* top = isCascade() ? nullptr : getFirstTopParent(0, 0);
+  if (top) {
+    // Closed for the measure, lest the popup count itself.
+    show3DChildren(0);
+    bboxAction->apply(top);
+    pos[2] = bboxAction->getBoundingBox().getMax()[2];
+    show3DChildren(1);
+  }
+  place3DChildren(pos, false);
+}
+
+void SoMenuPopup::update3DChildrenSize()
+{
+  int32_t widest = 0;
+  for (int i = 0; i < numChildren; ++i)
+    widest = std::max(widest, childList().at(i)->getItemInitSize()[0]);
+  for (int i = 0; i < numChildren; ++i)
+    childList().at(i)->setItemSize(SbVec2i32(widest, 0), 1);
+}
+
+void SoMenuPopup::show3DChildren(int show)
+{
+  if (childrenShown == show)
+    return;
+  for (int i = 0; i < numChildren; ++i) {
+    SoMenuItem* child = childList().at(i);
+    if (!show && child->isOfType(SoMenuPopup::getClassTypeId()))
+      static_cast<SoMenuPopup*>(child)->show3DChildren(0);
+    if (child->isBuilt3D())
+      child->show3D(show);
+  }
+  childrenShown = show;
+  setSwitchValue(frameSwitch.getValue(), show ? 1 : 0);
+  if (!isCascade() && buttonTransform)
+    undoTransformMatrix(frameSep.getValue(), buttonTransform);
+}
+
+void SoMenuPopup::startCB3D(void*, SoDragger* dragger)
+{
+  auto* popup = static_cast<SoMenuPopup*>(dragger);
+  const SoPath* path = popup->getPickPath();
+  if (path && path->containsNode(popup->geomSwitch.getValue()))
+    popup->draggerStartCallback3D();
+}
+
+void SoMenuPopup::draggerStartCallback3D()
+{
+  const bool onBar = parentNode && parentNode->isOfType(SoMenuBar::getClassTypeId());
+  if (childrenShown) {
+    if (onBar)
+      set3DInactive();
+    else
+      show3DChildren(0);
+    return;
+  }
+  // The one active control: another bar popup that is open closes now.
+  if (onBar)
+    set3DCurrentActive(this);
+  show3DChildren(1);
+  change3DPosition();
+}
+
+void SoMenuPopup::set3DInactive()
+{
+  show3DChildren(0);
+  SoMenuItem::set3DInactive();
+}
+
+void SoMenuPopup::rayPick(SoRayPickAction* action)
+{
+  SoDragger::rayPick(action);
+  addInterfaceDetails(action);
 }
 
 void SoMenuPopup::insertMenuItem(int)
@@ -173,7 +380,14 @@ void SoMenuPopup::buildNewChild(SoMenuItem* child, int position)
   updateAfterSceneGraphChange();
 }
 
-void SoMenuPopup::updateAfterSceneGraphChange() {}
+void SoMenuPopup::updateAfterSceneGraphChange()
+{
+  if (!isBuilt3D())
+    return;
+  update3DChildrenSize();
+  update3DChildren();
+  change3DPosition();
+}
 
 SoChildList* SoMenuPopup::getChildren() const
 {

@@ -17,6 +17,15 @@ SoMenuPushButtonLauncher::~SoMenuPushButtonLauncher()
   removeAllChildren();
 }
 
+void SoMenuPushButtonLauncher::buildMenu(void* holder, int is2D, int position)
+{
+  SoMenuPushButton::buildMenu(holder, is2D, position);
+  if (!isBuilt3D())
+    return;
+  for (int i = 0; i < numChildren; ++i)
+    childList().at(i)->show3D(0);
+}
+
 void SoMenuPushButtonLauncher::menuEvent(void* data, int id)
 {
   SoMenuPushButton::menuEvent(data, id);

@@ -514,7 +514,9 @@ namespace {
 // The plate's border around the children, and the title strip above them.
 const int32_t kPlateBorder = 8;
 const int32_t kTitleAllowance = 27;
-const int32_t kMenuBarTitleAllowance = 12;
+// With a bar the children start 18 lower, and the height already counts the
+// bar's 19: the plate ends as far below the last child as without a bar.
+const int32_t kMenuBarTitleAllowance = kTitleAllowance + 18 - 19;
 const float kChildrenLeft = 4.0f;
 const float kChildrenTop = 23.0f;
 const float kMenuBarHeight = 18.0f;
