@@ -9,6 +9,7 @@
 class QBoxLayout;
 class QSpacerItem;
 class SoScale;
+class SoText3;
 class SoTransform;
 
 // The labelled, sizeable frame of every control and container: a label part
@@ -97,6 +98,12 @@ protected:
   // size and its centre's offset from the control's centre. A visible label
   // takes the left part.
   void get3DComponentSize(SbVec2i32& size, SbVec2i32& offset);
+  // The label left of a control's body, as the controls with a label column
+  // draw it: `text` takes the `label` field anew, and is placed in the column
+  // by the alignment, its free room halved as integers with `integerHalf`,
+  // otherwise in double.
+  void set3DSideLabelText(SoText3* text);
+  void place3DSideLabel(SoGroup* props, SoText3* text, SoTranslation* translation, bool integerHalf);
 
   // The 3D form's frame: the control's centre, the size of its edge block,
   // and the lift onto the block's top.

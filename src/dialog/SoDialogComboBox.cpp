@@ -274,22 +274,15 @@ void SoDialogComboBox::update3DComboBox()
 
 void SoDialogComboBox::update3DLabel()
 {
-  if (!isLabelCachedBBox())
-    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(labelProp.getValue()), labelText)));
-  const SbBox3f box = getLabelCachedBBox();
-  const int32_t x = SoControl3D::sideLabelX(labelSize[0], box.getMax()[0] - box.getMin()[0],
-                                            labelAlignment.getValue(), true);
-  labelTranslation->translation.setValue(x - width.getValue() / 2.0f, -(box.getMax()[1] + box.getMin()[1]) / 2,
-                                         0.0f);
+  if (labelText)
+    place3DSideLabel(static_cast<SoGroup*>(labelProp.getValue()), labelText, labelTranslation, true);
 }
 
 void SoDialogComboBox::change3DLabel()
 {
-  if (!labelText)
-    return;
-  SoControl3D::clearText(labelText);
-  setStringToText3(labelText, convertToCString(label.getValue(), nullptr));
-  SoFormwright::change3DLabel();
+  if (labelText)
+    set3DSideLabelText(labelText);
+  SoDialogComponent::change3DLabel();
   if (isBuilt3D())
     update3DLabel();
 }

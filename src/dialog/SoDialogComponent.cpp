@@ -5,6 +5,7 @@
 #include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
 
+#include "SoControl3D.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoSizeRules.h"
 
@@ -485,6 +486,22 @@ void SoDialogComponent::get3DComponentSize(SbVec2i32& size, SbVec2i32& offset)
     size[0] -= labelSize[0] + 2;
   }
   offset.setValue(static_cast<int32_t>(start + size[0] / 2.0 - w / 2.0), 0);
+}
+
+void SoDialogComponent::set3DSideLabelText(SoText3* text)
+{
+  SoControl3D::clearText(text);
+  setStringToText3(text, convertToCString(label.getValue(), nullptr));
+}
+
+void SoDialogComponent::place3DSideLabel(SoGroup* props, SoText3* text, SoTranslation* translation, bool integerHalf)
+{
+  if (!isLabelCachedBBox())
+    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(props, text)));
+  const SbBox3f box = getLabelCachedBBox();
+  const int32_t x = SoControl3D::sideLabelX(labelSize[0], box.getMax()[0] - box.getMin()[0], labelAlignment.getValue(),
+                                            integerHalf);
+  translation->translation.setValue(x - width.getValue() / 2.0f, -(box.getMax()[1] + box.getMin()[1]) / 2, 0.0f);
 }
 
 void SoDialogComponent::getBoundingBox(SoGetBoundingBoxAction* action)

@@ -588,27 +588,14 @@ void SoDialogEditText::update3DTextPosition()
 
 void SoDialogEditText::update3DLabel()
 {
-  if (!labelText)
-    return;
-  if (!isLabelCachedBBox())
-    setLabelCacheBBox(measure3DText(get3DPart("labelProp"), labelText));
-  const SbBox3f box = getLabelCachedBBox();
-  const double textWidth = extentOf(box, 0);
-  double x = 3.0;
-  if (labelAlignment.getValue() == CENTER)
-    x += (labelSize[0] - textWidth) / 2;
-  else if (labelAlignment.getValue() == RIGHT)
-    x += labelSize[0] - textWidth;
-  const double left = std::trunc(x) - static_cast<double>(width.getValue()) / 2;
-  labelTranslation->translation.setValue(static_cast<float>(left), -middleOf(box, 1), 0.0f);
+  if (labelText)
+    place3DSideLabel(get3DPart("labelProp"), labelText, labelTranslation, false);
 }
 
 void SoDialogEditText::change3DLabel()
 {
-  if (labelText) {
-    labelText->string.deleteValues(0, -1);
-    setStringToText3(labelText, convertToCString(label.getValue(), nullptr));
-  }
+  if (labelText)
+    set3DSideLabelText(labelText);
   SoDialogComponent::change3DLabel();
   if (isBuilt3D())
     update3DLabel();

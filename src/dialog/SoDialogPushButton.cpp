@@ -244,22 +244,15 @@ void SoDialogPushButton::update3DButton()
 
 void SoDialogPushButton::update3DLabel()
 {
-  if (!isLabelCachedBBox())
-    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(static_cast<SoGroup*>(labelProp.getValue()), labelText)));
-  const SbBox3f box = getLabelCachedBBox();
-  const int32_t x = SoControl3D::sideLabelX(labelSize[0], box.getMax()[0] - box.getMin()[0],
-                                            labelAlignment.getValue(), false);
-  labelTranslation->translation.setValue(x - width.getValue() / 2.0f, -(box.getMax()[1] + box.getMin()[1]) / 2,
-                                         0.0f);
+  if (labelText)
+    place3DSideLabel(static_cast<SoGroup*>(labelProp.getValue()), labelText, labelTranslation, false);
 }
 
 void SoDialogPushButton::change3DLabel()
 {
-  if (!labelText)
-    return;
-  SoControl3D::clearText(labelText);
-  setStringToText3(labelText, convertToCString(label.getValue(), this));
-  SoFormwright::change3DLabel();
+  if (labelText)
+    set3DSideLabelText(labelText);
+  SoDialogComponent::change3DLabel();
   if (isBuilt3D())
     update3DLabel();
 }

@@ -550,22 +550,14 @@ void SoDialogSlider::update3DSlider()
 
 void SoDialogSlider::update3DLabel()
 {
-  if (!labelText)
-    return;
-  if (!isLabelCachedBBox())
-    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(get3DPart("labelProp"), labelText)));
-  const SbBox3f box = getLabelCachedBBox();
-  const int32_t x = SoControl3D::sideLabelX(labelSize[0], box.getMax()[0] - box.getMin()[0],
-                                            labelAlignment.getValue(), true);
-  labelTranslation->translation.setValue(x - width.getValue() / 2.0f, -middleOf(box, 1), 0.0f);
+  if (labelText)
+    place3DSideLabel(get3DPart("labelProp"), labelText, labelTranslation, true);
 }
 
 void SoDialogSlider::change3DLabel()
 {
-  if (labelText) {
-    SoControl3D::clearText(labelText);
-    setStringToText3(labelText, convertToCString(label.getValue(), nullptr));
-  }
+  if (labelText)
+    set3DSideLabelText(labelText);
   SoDialogComponent::change3DLabel();
   if (isBuilt3D())
     update3DLabel();
