@@ -2,9 +2,10 @@
 // of the user. With no file it opens a built-in dialog that shows every
 // control. Without a display it renders the dialog to a PNG file and exits.
 // A message box of a dialog file is shown, or rendered, on its own.
-// With --3d the dialog is built as geometry and stands in a 3D scene.
+// With --3d the dialog is built as geometry and stands in a 3D scene, where
+// --click works it before the scene is shown or drawn.
 //
-//   formwright-preview [FILE] [--id AUDITOR_ID] [--3d] [--screenshot PNG] [--list]
+//   formwright-preview [FILE] [--id AUDITOR_ID] [--3d] [--click X,Y]... [--screenshot PNG] [--list]
 
 #include "PreviewAuditor.h"
 #include "PreviewTabAuditor.h"
@@ -22,16 +23,22 @@
 
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/actions/SoSearchAction.h>
+#include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoSeparator.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPixmap>
+#include <QScreen>
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -60,10 +67,12 @@ bool drawsOffScreen()
 
 // Off screen, Qt notes each window feature that it cannot offer, and the
 // missing runtime folder of a session that has none: nothing a user of the
-// preview can act on.
+// preview can act on; nor that the scene's widget cannot draw, as it is
+// then only clicked.
 void quietOffScreenNotices(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
   if (type == QtWarningMsg && (message.startsWith("This plugin does not support") ||
+                               message.startsWith("QOpenGLWidget is not supported") ||
                                message.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")))
     return;
   std::fprintf(stderr, "%s\n", qFormatLogMessage(type, context, message).toLocal8Bit().constData());
@@ -137,13 +146,17 @@ void printTree(SoFormwright* node, int depth)
     printTree(childAt(node, i), depth + 1);
 }
 
-// Page changes reach only a tab dialog's own auditors.
-void listenToPages(SoFormwright* node, PreviewTabAuditor* auditor)
+// Page changes reach only a tab dialog's own auditors; and a tab dialog
+// with auditors of its own no longer hands the actions in its pages on to
+// the window's, so it gets the general one as well.
+void listenToPages(SoFormwright* node, PreviewTabAuditor* pages, PreviewAuditor* actions)
 {
-  if (node->isOfType(SoTabDialog::getClassTypeId()))
-    static_cast<SoTabDialog*>(node)->addAuditor(auditor);
+  if (node->isOfType(SoTabDialog::getClassTypeId())) {
+    static_cast<SoTabDialog*>(node)->addAuditor(pages);
+    static_cast<SoTabDialog*>(node)->addAuditor(actions);
+  }
   for (int i = 0; i < childCount(node); ++i)
-    listenToPages(childAt(node, i), auditor);
+    listenToPages(childAt(node, i), pages, actions);
 }
 
 // The box blocks until it is closed. To render it, it is grabbed as soon as
@@ -177,6 +190,49 @@ int showMessage(SoMessageDialog* message, const QString& screenshot)
   return 0;
 }
 
+// Sizes the viewer to the plate with its margin, at the preview's scale or,
+// if that would not fit into the largest size, at the scale that fits, and
+// sets the camera straight above the plate at that scale.
+void showPlate(Formwright::SoQtSceneViewer* viewer, SoTopLevelDialog* dialog, const QSize& largest)
+{
+  // The plate's top face is the top of its frame, below the faces of the
+  // controls on it; its sides come from the plate's size, as a title too
+  // long for it reaches past them.
+  SoSearchAction search;
+  search.setNode(dialog->getPart("frame", FALSE));
+  search.setSearchingAll(TRUE);
+  const SbBool searchedKits = SoBaseKit::isSearchingChildren();
+  SoBaseKit::setSearchingChildren(TRUE);
+  search.apply(viewer->getSceneGraph());
+  SoBaseKit::setSearchingChildren(searchedKits);
+  float top = 0.0f;
+  if (search.getPath()) {
+    SoGetBoundingBoxAction measure(viewer->getViewportRegion());
+    measure.apply(search.getPath());
+    if (!measure.getBoundingBox().isEmpty())
+      top = measure.getBoundingBox().getMax()[2];
+  }
+  const SbVec3f plate = dialog->getTopLevelSize();
+  const SbVec3f corner = dialog->position3D.getValue();
+  const float sceneWidth = plate[0] + 2 * kSceneMargin;
+  const float sceneHeight = plate[1] + 2 * kSceneMargin;
+  const float scale = std::min({static_cast<float>(kSceneScale), largest.width() / sceneWidth,
+                                largest.height() / sceneHeight});
+  viewer->resize(std::max(1, qRound(scale * sceneWidth)), std::max(1, qRound(scale * sceneHeight)));
+  viewer->viewFromAbove(SbVec3f(corner[0] + plate[0] / 2, -corner[1] - plate[1] / 2, top), scale);
+}
+
+// A click of the left button at a widget pixel, as the user would make it.
+void clickAt(Formwright::SoQtSceneViewer* viewer, const QPoint& pixel)
+{
+  const QPointF global = viewer->mapToGlobal(QPointF(pixel));
+  QMouseEvent press(QEvent::MouseButtonPress, QPointF(pixel), global, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  viewer->processEvent(&press);
+  QMouseEvent release(QEvent::MouseButtonRelease, QPointF(pixel), global, Qt::LeftButton, Qt::NoButton,
+                      Qt::NoModifier);
+  viewer->processEvent(&release);
+}
+
 int run(const QCommandLineParser& options)
 {
   const QStringList files = options.positionalArguments();
@@ -202,8 +258,25 @@ int run(const QCommandLineParser& options)
     return 0;
   }
 
+  QList<QPoint> clicks;
+  for (const QString& text : options.values("click")) {
+    const QStringList xy = text.split(',');
+    bool xRead = false;
+    bool yRead = false;
+    if (xy.size() == 2)
+      clicks.append(QPoint(xy[0].trimmed().toInt(&xRead), xy[1].trimmed().toInt(&yRead)));
+    if (!xRead || !yRead)
+      return fail(QString("--click takes X,Y in pixels, not \"%1\"").arg(text));
+  }
+  // The environment preference may have chosen the scene form already.
+  const bool inScene = options.isSet("3d") || SoFormMode::isSceneForm();
+  if (!clicks.isEmpty() && (!inScene || node->isOfType(SoMessageDialog::getClassTypeId())))
+    return fail("--click works on a dialog in the 3D form only, with --3d");
   QString screenshot = options.value("screenshot");
-  if (screenshot.isEmpty() && drawsOffScreen())
+  // Off screen the clicks alone, for the lines they print, are worth a run
+  // that draws nothing: no OpenGL context is needed for them.
+  const bool clicksOnly = !clicks.isEmpty() && screenshot.isEmpty() && drawsOffScreen();
+  if (screenshot.isEmpty() && drawsOffScreen() && !clicksOnly)
     screenshot = kDefaultScreenshot;
   if (node->isOfType(SoMessageDialog::getClassTypeId()))
     return showMessage(static_cast<SoMessageDialog*>(node), screenshot);
@@ -224,9 +297,7 @@ int run(const QCommandLineParser& options)
   PreviewAuditor auditor(stdout);
   PreviewTabAuditor pages(stdout);
   dialog->addAuditor(&auditor);
-  listenToPages(dialog, &pages);
-  // The environment preference may have chosen the scene form already.
-  const bool inScene = options.isSet("3d") || SoFormMode::isSceneForm();
+  listenToPages(dialog, &pages, &auditor);
   if (inScene)
     SoFormMode::setSceneForm(true);
   dialog->buildDialog(nullptr, 0);
@@ -237,11 +308,17 @@ int run(const QCommandLineParser& options)
     scene->addChild(dialog);
     auto* viewer = new Formwright::SoQtSceneViewer;
     viewer->setWindowTitle(QString("%1 - formwright-preview").arg(dialog->label.getValue().getString()));
-    const QSize sceneSize(kSceneScale * (dialog->width.getValue() + 2 * kSceneMargin),
-                          kSceneScale * (dialog->height.getValue() + 2 * kSceneMargin));
-    viewer->resize(sceneSize.boundedTo(QSize(kLargestScreenshot, kLargestScreenshot)));
     viewer->setSceneGraph(scene);
-    if (screenshot.isEmpty()) {
+    // A window is kept within the screen, an image within what a file holds.
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const bool live = screenshot.isEmpty() && !clicksOnly;
+    const QSize largest = live && screen ? screen->availableSize() : QSize(kLargestScreenshot, kLargestScreenshot);
+    showPlate(viewer, dialog, largest);
+    for (const QPoint& click : clicks)
+      clickAt(viewer, click);
+    if (clicksOnly)
+      return 0;
+    if (live) {
       // The keys typed into the window go to the controls in the scene.
       viewer->setFocus();
       viewer->show();
@@ -300,6 +377,11 @@ int main(int argc, char** argv)
   options.addOption({"3d", "Build the dialog as geometry and show it standing in a 3D scene."});
   options.addOption({"screenshot", "Render the dialog to this PNG file and exit.", "PNG"});
   options.addOption({"list", "Print the tree of auditor identifiers and exit."});
+  options.addOption({"click",
+                     "With --3d: click the left button at pixel X,Y of the scene, counted from its top left, before "
+                     "the scene is shown or drawn; may be repeated, the clicks are made in order. Without a display "
+                     "and without --screenshot, only the clicks are made and nothing is drawn.",
+                     "X,Y"});
   options.process(application);
 
   SoFormwright::init();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Inventor/SbColor.h>
+#include <Inventor/SbVec3f.h>
 #include <Inventor/SbViewportRegion.h>
 
 #include <QImage>
@@ -42,6 +43,10 @@ public:
   SoCamera* getCamera() const { return m_camera; }
   // Moves the camera so that the whole scene fills the drawing area.
   void viewAll();
+  // Puts the camera straight above a point, looking down the z axis, so that
+  // the plane through the point parallel to the screen shows pixelsPerUnit
+  // widget pixels for each scene unit at the widget's present size.
+  void viewFromAbove(const SbVec3f& point, float pixelsPerUnit);
   // The drawing area in device pixels, with the origin at its lower left.
   SbViewportRegion getViewportRegion() const;
 

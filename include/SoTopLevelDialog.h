@@ -13,6 +13,7 @@
 class QVBoxLayout;
 class SbPlaneProjector;
 class SoChildList;
+class SoClipPlane;
 class SoDialogAuditor;
 class SoInput;
 class SoMenuBar;
@@ -224,6 +225,8 @@ private:
   SoTranslation* frameTranslation = nullptr;
   SoTransform* frameTransform = nullptr;
   SoTranslation* labelTranslation = nullptr;
+  // Cuts a title too long for the plate off before the minimize button.
+  SoClipPlane* labelClip = nullptr;
   SoText3* labelText = nullptr;
   SoTranslation* minTranslation = nullptr;
   SbPlaneProjector* projector = nullptr;

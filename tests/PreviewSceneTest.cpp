@@ -1,6 +1,8 @@
 // The preview's scene form, drawn by OpenGL: run under a virtual display, as
 // on a machine without one.
 
+#include "SceneTestSupport.h"
+
 #include <QColor>
 #include <QDir>
 #include <QImage>
@@ -36,8 +38,20 @@ TEST(PreviewScene, aDialogStandsInTheSceneWithItsPlateItsTitleAndItsChildren)
 
   const QImage image(png);
   ASSERT_FALSE(image.isNull());
+  // Two pixels a unit, with 10 units of scene round the plate.
+  DebugMessages quiet; // of the skin files, which the tests do without
+  auto* dialog = static_cast<SoTopLevelDialog*>(SoFormwright::loadFromFile(
+    SbString(QDir(FORMWRIGHT_EXAMPLES).filePath("nested.scn").toLocal8Bit().constData()), "render"));
+  ASSERT_NE(dialog, nullptr);
+  buildInScene(dialog);
+  const SbVec3f plate = dialog->getTopLevelSize();
+  EXPECT_EQ(image.size(), QSize(2 * (static_cast<int>(plate[0]) + 20), 2 * (static_cast<int>(plate[1]) + 20)));
   // The scene around the dialog is all one colour.
   const QRgb background = image.pixel(0, 0);
+  int left = 0;
+  while (left < image.width() && image.pixel(left, image.height() / 2) == background)
+    ++left;
+  EXPECT_NEAR(left, 20, 1) << "the plate's edge";
   EXPECT_EQ(image.pixel(image.width() - 1, 0), background);
   EXPECT_EQ(image.pixel(0, image.height() - 1), background);
   EXPECT_EQ(image.pixel(image.width() - 1, image.height() - 1), background);

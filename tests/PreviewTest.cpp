@@ -69,6 +69,25 @@ TEST(Preview, everyExampleRendersAtTheSizeOfItsNegotiatedDialog)
   EXPECT_FALSE(QImage(dir.filePath("formwright-preview.png")).isNull());
 }
 
+// Clicks are made without a display too, where the scene is not drawn: the
+// user's actions print as in the 2D form.
+TEST(Preview, aClickInTheSceneWorksTheControlUnderItAndPrintsItsLine)
+{
+  QTemporaryDir dir;
+  const QString file = dir.filePath("box.scn");
+  QFile out(file);
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+  out.write("#Inventor V2.1 ascii\nTopLevelDialog { margin 5\n"
+            "DialogCheckBox { auditorID \"binary\" width 100 height 30 minWidth 100 minHeight 30 } }\n");
+  out.close();
+  // The plate starts 10 units in, at 2 pixels a unit; the box's frame
+  // starts 4 + 5 units right of its edge and 23 + 5 below its top.
+  const QString middle = QString("%1,%2").arg(2 * (10 + 4 + 5 + 50)).arg(2 * (10 + 23 + 5 + 15));
+  const PreviewRun run = preview({file, "--3d", "--click", middle, "--click", middle});
+  EXPECT_EQ(run.status, 0) << run.err.toStdString();
+  EXPECT_EQ(run.out, "DialogCheckBox \"binary\": TRUE\nDialogCheckBox \"binary\": FALSE\n");
+}
+
 std::string deepGroups(int depth)
 {
   std::string text = "#Inventor V2.1 ascii\nTopLevelDialog {\n";

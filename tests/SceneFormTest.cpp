@@ -12,6 +12,7 @@
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoText3.h>
 
 #include <QDir>
 #include <QFile>
@@ -129,6 +130,32 @@ TEST(SceneForm, theMinimizeButtonShrinksThePlateToItsStripAndBack)
   EXPECT_FALSE(dialog->minimized.getValue());
   EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(plateWidth, 30 + 27, 1.0f));
   EXPECT_EQ(scene.pickedNode(50.0f, -40.0f), child);
+}
+
+TEST(SceneForm, aTitleWiderThanThePlateStopsBeforeTheMinimizeButton)
+{
+  Scene scene;
+  auto* dialog = makeNode<SoTopLevelDialog>();
+  dialog->label = "Wide title Wide title Wide title Wide title";
+  dialog->addChild(makeFixedLeaf());
+  scene.root->addChild(dialog);
+  buildInScene(dialog);
+  // Glyphs of the title along the button's middle row, 12 below the top:
+  // the button spans 14 round a centre 12 from the right edge.
+  const float plateWidth = 100 + 8;
+  std::vector<float> glyphs;
+  for (float x = 12.0f; x <= plateWidth; x += 0.5f) {
+    SoRayPickAction pick(scene.viewport);
+    pick.setPoint(Scene::pixel(x, -12.0f));
+    pick.setPickAll(TRUE);
+    pick.apply(scene.root);
+    const SoPickedPointList& points = pick.getPickedPointList();
+    for (int i = 0; i < points.getLength(); ++i)
+      if (static_cast<SoFullPath*>(points[i]->getPath())->getTail()->isOfType(SoText3::getClassTypeId()))
+        glyphs.push_back(x);
+  }
+  ASSERT_FALSE(glyphs.empty());
+  EXPECT_LT(glyphs.back(), plateWidth - 12 - 7);
 }
 
 TEST(SceneForm, aPressOnAnotherControlEndsTheActiveOneOnce)

@@ -23,6 +23,7 @@
 #include <Inventor/SoPath.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/nodes/SoClipPlane.h>
 #include <Inventor/nodes/SoGroup.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoPickStyle.h>
@@ -525,6 +526,8 @@ const float kMenuBarHeight = 18.0f;
 const float kButtonInset = 12.0f;
 const float kButtonSize = 14.0f;
 const float kStripHeight = 20.0f;
+// Room left between the end of a long title and the minimize button.
+const float kTitleGap = 4.0f;
 }
 
 SbVec2i32 SoTopLevelDialog::plateSize() const
@@ -562,6 +565,8 @@ void SoTopLevelDialog::create3DTopLevelDialog()
   switchNode->insertChild(frameTransform, switchNode->findChild(labelGroup));
   labelTranslation = new SoTranslation;
   labelGroup->insertChild(labelTranslation, 0);
+  labelClip = new SoClipPlane;
+  labelGroup->insertChild(labelClip, 0);
 
   labelText = new SoText3;
   labelText->parts = SoText3::FRONT;
@@ -609,6 +614,10 @@ void SoTopLevelDialog::update3DLabel()
   const SbVec2i32 plate = plateSize();
   const float w = static_cast<float>(plate[0]);
   const float h = static_cast<float>(plate[1]);
+  // What reaches past the gap before the button is cut off: the plane
+  // keeps the side its normal points to.
+  const float cut = w / 2 - kButtonInset - kButtonSize / 2 - kTitleGap;
+  labelClip->plane.setValue(SbPlane(SbVec3f(-1.0f, 0.0f, 0.0f), -cut));
   // Level with the button's centre, or in the middle of the strip.
   if (minimized.getValue())
     labelTranslation->translation.setValue(-w / 2 + kButtonInset, -middle, 0.0f);

@@ -22,6 +22,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace Formwright {
@@ -82,6 +83,20 @@ void SoQtSceneViewer::setSceneGraph(SoNode* scene)
 void SoQtSceneViewer::viewAll()
 {
   m_camera->viewAll(m_root, getViewportRegion());
+}
+
+void SoQtSceneViewer::viewFromAbove(const SbVec3f& point, float pixelsPerUnit)
+{
+  // The toolkit fits the camera's angle to the shorter side of the drawing
+  // area, so that the scale is set by that side.
+  const float shortSide = static_cast<float>(qMax(1, qMin(width(), height()))) / pixelsPerUnit;
+  const auto* camera = static_cast<SoPerspectiveCamera*>(m_camera);
+  const float distance = shortSide / 2 / std::tan(camera->heightAngle.getValue() / 2);
+  m_camera->orientation.setValue(SbRotation::identity());
+  m_camera->position.setValue(point + SbVec3f(0.0f, 0.0f, distance));
+  m_camera->focalDistance = distance;
+  // Picks made before the next drawing need the planes round the new view.
+  fitToScene();
 }
 
 SbViewportRegion SoQtSceneViewer::getViewportRegion() const
@@ -208,6 +223,9 @@ bool SoQtSceneViewer::processEvent(QEvent* event)
   const SoEvent* translated = m_translator->translate(event, getViewportRegion().getViewportSizePixels()[1], ratio);
   if (!translated)
     return false;
+  // A pick is clipped by the camera's planes as a drawing is.
+  if (m_fitPending)
+    fitToScene();
   m_eventAction->setViewportRegion(getViewportRegion());
   m_eventAction->setEvent(translated);
   m_eventAction->apply(m_root);
