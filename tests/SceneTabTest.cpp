@@ -2,6 +2,7 @@
 
 #include "SceneTestSupport.h"
 
+#include <SoDialogGroup.h>
 #include <SoDialogPushButton.h>
 #include <SoTabDialog.h>
 #include <SoTabDialogAuditor.h>
@@ -123,6 +124,30 @@ TEST_F(SceneTabs, theScrollButtonsShowDownAtThePressAndMoveTheStripByOneAtReleas
   scene.click(button(26), kStripMiddle);
   pressTab(0);
   EXPECT_EQ(tabs->selectedPage.getValue(), 0);
+}
+
+} // namespace
+
+namespace {
+
+// A page sized by the tab dialog, after the window measured it otherwise,
+// lays its children out in its own size.
+TEST(SceneTabPages, keepTheirChildrenInsideThem)
+{
+  SoSeparator* root = readScene("#Inventor V2.1 ascii\n"
+                                "TopLevelDialog { TabDialog {"
+                                "  RowDialog { label \"A\" DialogCheckBox { label \"x\" } }"
+                                "  RowDialog { label \"B\" margin 4 rowSpacing 4 DialogCheckBox { } DialogCheckBox { } } } }\n");
+  ASSERT_NE(root, nullptr);
+  auto* dialog = static_cast<SoTopLevelDialog*>(root->getChild(0));
+  buildInScene(dialog);
+  auto* tabs = static_cast<SoTabDialog*>(dialog->getChild(0));
+  for (int page = 0; page < 2; ++page) {
+    auto* row = static_cast<SoDialogGroup*>(tabs->getChild(page));
+    for (int i = 0; i < row->getNumChildren(); ++i)
+      EXPECT_LE(static_cast<SoDialogComponent*>(row->getChild(i))->height.getValue(), row->height.getValue())
+        << "page " << page << ", child " << i;
+  }
 }
 
 } // namespace

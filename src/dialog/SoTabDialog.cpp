@@ -7,6 +7,7 @@
 #include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
+#include "SoScenePass.h"
 #include "SoSizeRules.h"
 
 #include <Inventor/SoPath.h>
@@ -557,6 +558,9 @@ void SoTabDialog::change3DPages()
 {
   if (!frameScale)
     return;
+  // The pages take a size that no measure above foresaw: what the groups in
+  // them worked out for the window's pass does not hold here.
+  const SoScenePass pass(0, true);
   SbVec2i32 pageArea(width.getValue(), height.getValue());
   fixSizeWithBorder(pageArea, -1);
   const SbVec3f origin = pageOrigin();
