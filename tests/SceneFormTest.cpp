@@ -151,7 +151,7 @@ TEST(SceneForm, aTitleWiderThanThePlateStopsBeforeTheMinimizeButton)
     pick.apply(scene.root);
     const SoPickedPointList& points = pick.getPickedPointList();
     for (int i = 0; i < points.getLength(); ++i)
-      if (static_cast<SoFullPath*>(points[i]->getPath())->getTail()->isOfType(SoText3::getClassTypeId()))
+      if (fullPathNodes(points[i]->getPath()).back()->isOfType(SoText3::getClassTypeId()))
         glyphs.push_back(x);
   }
   ASSERT_FALSE(glyphs.empty());
