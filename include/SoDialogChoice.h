@@ -65,4 +65,11 @@ protected:
   SoFieldSensor* selectedItemSensor = nullptr;
   // The selection that the 3D form last showed.
   int32_t lastSelectedItem = 0;
+
+private:
+  // Clears the empty-list flag once `items` holds a real entry, whoever
+  // wrote it: a dialog file, the application or the library.
+  void noteRealItems();
+  // Reads the length of `items` again, with the flag to match.
+  void readItemCount();
 };

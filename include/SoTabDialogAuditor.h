@@ -4,7 +4,8 @@
 
 class SoTabDialog;
 
-// Hears of changes of a SoTabDialog through tabDialog.
+// Hears of changes of a SoTabDialog through tabDialog. It hears nothing of
+// the controls in the pages, and leaves them to the general auditors above.
 class SoTabDialogAuditor : public SoAuditor {
   SO_FORMWRIGHT_AUDITOR_HEADER(SoTabDialogAuditor)
 

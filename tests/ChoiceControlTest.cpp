@@ -124,6 +124,19 @@ TEST(DialogChoice, placeholderStandsForTheEmptyList)
   EXPECT_EQ(comboOf(window)->count(), 1);
 }
 
+// A list given one real entry before any build is no empty list.
+TEST(DialogChoice, oneEntryListIsEditedBeforeAnyBuild)
+{
+  for (SoDialogChoice* node : {static_cast<SoDialogChoice*>(makeChoice<SoDialogComboBox>("", {"B"})),
+                               static_cast<SoDialogChoice*>(makeChoice<SoDialogRadioButtons>("", {"B"}))}) {
+    node->insertItem(0, "A");
+    EXPECT_EQ(itemsOf(node), (std::vector<std::string>{"A", "B"}));
+  }
+  SoDialogChoice* node = makeChoice<SoDialogComboBox>("", {"B"});
+  node->removeItem(0);
+  EXPECT_EQ(node->items.getNum(), 0);
+}
+
 TEST(DialogChoice, removingTheLastRealEntryOfShownButtonsBringsThePlaceholderBack)
 {
   ControlWindow window;

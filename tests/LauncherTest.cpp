@@ -92,9 +92,11 @@ TEST_F(Launchers, pushButtonOpensItsDialogAfterTheAuditorsHeard)
 
   QWidget* built = optionsDialog->getBaseWidget();
   optionsDialog->hide();
+  optionsDialog->width = built->width() + 40;
   QTest::mouseRelease(widgetOf<QPushButton>(options), Qt::LeftButton);
   QTest::mousePress(widgetOf<QPushButton>(options), Qt::LeftButton);
   EXPECT_TRUE(shown(optionsDialog));
+  EXPECT_EQ(built->width(), optionsDialog->width.getValue()) << "in the width set while it was hidden";
   EXPECT_EQ(optionsDialog->getBaseWidget(), built) << "a dialog once built stays built";
 
   // A launcher without dialogs is a plain push button.

@@ -15,6 +15,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <vector>
 
 namespace {
@@ -201,6 +202,22 @@ TEST(DialogRealSlider, continuousTriggerDecidesWhenTheFieldFollowsADrag)
   EXPECT_EQ(node->value.getValue(), 0.0f) << "the field waits for the release again";
   window.release(right + 50);
   EXPECT_EQ(node->value.getValue(), 1.0f);
+}
+
+TEST(DialogRealSlider, stillClickOnTheThumbChangesNothing)
+{
+  SliderWindow window;
+  SoDialogRealSlider* node = makeSlider<SoDialogRealSlider>("", 0.0f, 1.0f, 0.3337f);
+  RealAuditor auditor;
+  node->addAuditor(&auditor);
+  window.build(node);
+  window.show();
+  // The middle of the thumb, 11 pixels wide, standing at the value's pixel.
+  const int thumb = int(std::lround(0.3337f * float(window.bar()->width() - 11))) + 5;
+  window.drag(thumb, thumb);
+  window.release(thumb);
+  EXPECT_EQ(node->value.getValue(), 0.3337f);
+  EXPECT_TRUE(auditor.heard.empty());
 }
 
 TEST(DialogRealSlider, limitsAndValuesFromTheApplication)

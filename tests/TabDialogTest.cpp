@@ -156,6 +156,18 @@ TEST(TabDialog, pageChangesAreHeardOnceAndOnlyFromThePerson)
   EXPECT_EQ(onTabs.calls + onWindow.calls, 0);
 }
 
+TEST(TabDialog, anAuditorsChangeOfPageDuringAClickLeavesThePersonsTab)
+{
+  struct BackToFirst : SoTabDialogAuditor {
+    void tabDialog(SoTabDialog* node) override { node->selectedPage = 0; }
+  } auditor;
+  BuiltTabs built = buildTabs("", page("One") + page("Two") + page("Three"));
+  built.tabs->addAuditor(&auditor);
+  QTabBar* bar = built.tabWidget->tabBar();
+  QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(2).center());
+  EXPECT_EQ(built.tabWidget->currentIndex(), 2);
+}
+
 TEST(TabDialog, removingTheSelectedPageFallsBackToThePreviousSelection)
 {
   BuiltTabs built = buildTabs("", page("A") + page("B") + page("C") + page("D"));

@@ -44,8 +44,19 @@ void SoDialogChoice::fixItemsNumber()
     itemCount = 1;
     isEmptyList = 1;
   }
+  noteRealItems();
+}
+
+void SoDialogChoice::noteRealItems()
+{
   if (itemCount > 1 || (itemCount == 1 && items[0].getLength() != 0))
     isEmptyList = 0;
+}
+
+void SoDialogChoice::readItemCount()
+{
+  itemCount = items.getNum();
+  noteRealItems();
 }
 
 int32_t SoDialogChoice::mendSelectedItem()
@@ -62,7 +73,7 @@ int32_t SoDialogChoice::mendSelectedItem()
 
 void SoDialogChoice::addItem(SbString text)
 {
-  itemCount = items.getNum();
+  readItemCount();
   if (itemCount == isEmptyList) {
     isEmptyList = 0;
     items.set1Value(0, text);
@@ -75,7 +86,7 @@ void SoDialogChoice::addItem(SbString text)
 
 void SoDialogChoice::insertItem(int index, SbString text)
 {
-  itemCount = items.getNum();
+  readItemCount();
   if (itemCount == isEmptyList) {
     isEmptyList = 0;
     items.set1Value(0, text);
@@ -99,7 +110,7 @@ void SoDialogChoice::insertItem(int index, SbString text)
 
 void SoDialogChoice::removeItem(int index)
 {
-  itemCount = items.getNum();
+  readItemCount();
   if (index >= itemCount - isEmptyList || index < 0)
     return;
   items.deleteValues(index, 1);

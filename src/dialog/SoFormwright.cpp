@@ -543,14 +543,18 @@ std::vector<SoAuditor*> SoFormwright::getAuditorsNow() const
 void SoFormwright::applyContainerAuditors(SoFormwright* control, void (*tests)(SoDialogAuditor*, SoFormwright*),
                                           SoDialogAuditor* fallback)
 {
-  const std::vector<SoAuditor*> auditors = getAuditorsNow();
-  for (SoAuditor* auditor : auditors) {
+  bool heard = false;
+  for (SoAuditor* auditor : getAuditorsNow()) {
     // A tab dialog keeps auditors of its own kind in the same list; they
     // hear of page changes only.
-    if (auditor->isOfType(SoDialogAuditor::getClassTypeId()))
+    if (auditor->isOfType(SoDialogAuditor::getClassTypeId())) {
       tests(static_cast<SoDialogAuditor*>(auditor), control);
+      heard = true;
+    }
   }
-  if (!auditors.empty())
+  // An event that no auditor here can hear goes on up, as if there were
+  // none: page auditors on a tab dialog do not silence its controls.
+  if (heard)
     return;
   if (parentNode)
     parentNode->applyAuditor(control);

@@ -15,19 +15,14 @@
 
 namespace SoLauncherDialogs {
 
-// Whether a dialog stands in the form in which the library builds dialogs.
-inline bool isBuilt(SoTopLevelDialog* dialog)
-{
-  return SoFormMode::isSceneForm() ? dialog->isBuilt3D() != 0 : dialog->getBaseWidget() != nullptr;
-}
-
-// A dialog is built at its launcher's first need of it, in the library's
-// form: a window of the application's main widget, or a plate in the scene
-// where the launcher stands. It stays built when it is hidden. The launcher
-// is its parent from then on.
+// A dialog is built at each need of its launcher, in the library's form: a
+// window of the application's main widget, or a plate in the scene where
+// the launcher stands. A window is built again each time, so that it opens
+// in the size and place that its fields hold now, keeping its widgets; a
+// plate is built once. The launcher is the dialog's parent from then on.
 inline void build(SoTopLevelDialog* dialog, SoFormwright* launcher)
 {
-  if (isBuilt(dialog))
+  if (SoFormMode::isSceneForm() && dialog->isBuilt3D())
     return;
   dialog->buildDialog(Formwright::SoQt::getTopLevelWidget(), 0);
   dialog->setParent(launcher);

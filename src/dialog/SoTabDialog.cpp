@@ -192,11 +192,18 @@ void SoTabDialog::eventNotify(unsigned int page, unsigned long long)
   // choice of the person's.
   if (index == selectedPage.getValue() || index < 0 || index >= numChildren)
     return;
+  // The sensor stays off while the auditors run: a page that one of them
+  // writes does not move the tab away from the person's choice.
+  const bool attached = selectedPageSensor && selectedPageSensor->getAttachedField() == &selectedPage;
+  if (attached)
+    selectedPageSensor->detach();
   setSelectedPage(index);
   changeSelectedPage();
   if (isBuilt3D())
     change3DSelectedPage();
   applyDlgCptAuditor();
+  if (attached)
+    selectedPageSensor->attach(&selectedPage);
 }
 
 void SoTabDialog::changeSelectedPage()

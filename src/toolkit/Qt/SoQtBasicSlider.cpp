@@ -116,9 +116,14 @@ void SoQtBasicSlider::dragThumbTo(int x)
 {
   const int barLeft = m_bar.getMin()[0];
   const int track = (m_bar.getMax()[0] - barLeft + 1) - (m_thumb.getMax()[0] - m_thumb.getMin()[0] + 1);
+  // A thumb that stays on its pixel keeps its value: reading the value back
+  // from the pixel would only add the pixel's rounding.
+  if (std::clamp(x, barLeft, barLeft + std::max(track, 0)) == m_thumb.getMin()[0])
+    return;
   const float value = track > 0 ? std::clamp(float(x - barLeft) / float(track), 0.0f, 1.0f) : 0.0f;
   if (value == m_value)
     return;
+  m_moved = true;
   setValue(value);
   callAll(m_valueChangedCallbacks, value);
 }
@@ -138,6 +143,7 @@ void SoQtBasicSlider::mousePressEvent(QMouseEvent* event)
   // A press beside the thumb brings the thumb's middle to the mouse.
   m_grabOffset = onThumb ? x - m_thumb.getMin()[0] : (m_thumb.getMax()[0] - m_thumb.getMin()[0] + 1) / 2;
   m_dragging = true;
+  m_moved = false;
   dragThumbTo(x - m_grabOffset);
 }
 
@@ -153,7 +159,9 @@ void SoQtBasicSlider::mouseReleaseEvent(QMouseEvent* event)
     return;
   dragThumbTo(int(event->position().x()) - m_grabOffset);
   m_dragging = false;
-  callAll(m_finishCallbacks, m_value);
+  // A press that never moved the thumb ends nothing.
+  if (m_moved)
+    callAll(m_finishCallbacks, m_value);
 }
 
 QImage SoQtBasicSlider::renderFrame()

@@ -75,6 +75,8 @@ private:
   CallbackList m_valueChangedCallbacks;
   CallbackList m_finishCallbacks;
   bool m_dragging = false;
+  // Whether the thumb has moved since the press.
+  bool m_moved = false;
   // Where in the thumb the mouse holds it.
   int m_grabOffset = 0;
   QOpenGLFunctions_1_0* m_gl = nullptr;
