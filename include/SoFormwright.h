@@ -210,8 +210,9 @@ protected:
   }
 
   // A container's general auditors hear of a control below it, each sorted
-  // by `tests`; a container with none passes the event to its parent or, at
-  // the top, to `fallback`.
+  // by `tests`; a container with none of them (auditors of its own kind only,
+  // or none at all) passes the event to its parent or, at the top, to
+  // `fallback`.
   void applyContainerAuditors(SoFormwright* control, void (*tests)(SoDialogAuditor*, SoFormwright*),
                               SoDialogAuditor* fallback);
 
