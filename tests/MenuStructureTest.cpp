@@ -155,15 +155,6 @@ TEST_F(MenuStructure, misuseOfTheChildOperationsIsReported)
   EXPECT_EQ(bar->getNumChildren(), 2);
 }
 
-TEST(MenuFiles, onlyPopupsGoInBarsAndOnlyItemsInPopups)
-{
-  DebugMessages messages;
-  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPushButton { } } }\n"), nullptr);
-  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nMenuPopup { DialogLabel { } }\n"), nullptr);
-  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nMenuBar { MenuBar { } }\n"), nullptr);
-  EXPECT_NE(readScene("#Inventor V2.1 ascii\nMenuPopup { MenuPopup { } MenuSeparator { } }\n"), nullptr);
-}
-
 TEST_F(MenuStructure, searchEntersPopupsAndCascades)
 {
   EXPECT_EQ(window->searchForAuditorId("older")->getParent(), recent);
