@@ -167,18 +167,6 @@ TEST_F(MenuLaunchers, searchGoesThroughMenusIntoLaunchedDialogs)
   EXPECT_EQ(both->searchForAuditorId("second"), second);
 }
 
-TEST_F(MenuLaunchers, childMessagesNameTheClassAndCountToTheLastIndex)
-{
-  DebugMessages messages;
-  EXPECT_EQ(both->getChild(2), nullptr);
-  EXPECT_TRUE(messages.contains("SoMenuPushButtonLauncher::getChild(): Index 2 is out of range 0 - 2; Be careful"));
-  palette->removeChild(5);
-  EXPECT_TRUE(messages.contains("SoMenuCheckBoxLauncher::removeChild(): Index 5 is out of range 0 - 0"));
-  both->replaceChild(2, first);
-  EXPECT_TRUE(messages.contains("SoMenuPushButtonLauncher::replaceChild(): Index 2 is out of range 0 - 1"));
-  EXPECT_EQ(messages.count(), 3u);
-}
-
 class FileSelection : public MenuLaunchers {
 protected:
   void SetUp() override
