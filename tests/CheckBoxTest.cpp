@@ -140,37 +140,4 @@ TEST(DialogCheckBox, clickChangesTheFieldThenTellsTheAuditorsThenTheText)
   EXPECT_EQ(auditor.heard.size(), 3u) << "a change by the application is no event";
 }
 
-TEST(DialogCheckBox, naturalSizeHoldsTheWiderTextAndTheBox)
-{
-  SoDialogComponent* bare = makeCheckBox("", "", "");
-  EXPECT_EQ(bare->getComponentInitSize(), SbVec2i32(26, 8));
-
-  SoDialogCheckBox* node = makeCheckBox("", "Short", "Rather longer");
-  const SbVec2i32 on = textPixels("Short");
-  const SbVec2i32 off = textPixels("Rather longer");
-  EXPECT_EQ(static_cast<SoDialogComponent*>(node)->getComponentInitSize(),
-            SbVec2i32(off[0] + 26, std::max(on[1], off[1]) + 8));
-
-  SoDialogCheckBox* hidden = makeCheckBox("", "Short", "");
-  hidden->labelVisibility = FALSE;
-  SbVec2i32 column(30, 0);
-  hidden->setLabelSize(column);
-  EXPECT_EQ(static_cast<SoDialogComponent*>(hidden)->getComponentInitSize(), SbVec2i32(on[0] + 26 - 30, on[1] + 8));
-
-  // The default size adds the label column and is as high as the texts.
-  SbVec2i32 flat(100, 1);
-  node->setComponentSize(flat);
-  node->minHeight = 1;
-  SbVec2i32 size, min, max;
-  node->getSize(size, min, max);
-  EXPECT_EQ(size, SbVec2i32(102, on[1] + 8)) << "an empty label column still has its gap";
-
-  // Only a fixed axis gets a maximum.
-  ControlWindow window;
-  node->fixedWidth = TRUE;
-  node->width = 90;
-  window.build(node);
-  EXPECT_EQ(node->getWidget()->maximumSize(), QSize(90, QWIDGETSIZE_MAX));
-}
-
 }

@@ -203,29 +203,40 @@ TEST(DialogComboBox, buildsListAndLabelInItsFrame)
   EXPECT_EQ(combo->geometry().width(), 294);
 }
 
-TEST(DialogComboBox, selectionPastTheEndIsPulledBackButANegativeOneIsNot)
+// Past the end both pull the selection back to the last entry; below the
+// start the radio buttons mend it to the first, the combo box keeps it and
+// shows no choice. The same holds when the build reads the field and when it
+// changes later.
+TEST(DialogChoice, selectionOutOfRangeIsMendedOrShownAsNoChoice)
 {
+  const struct {
+    bool combo;
+    int set, stored, shown;
+  } cases[] = {{true, 9, 2, 2}, {true, -3, -3, -1}, {true, 1, 1, 1},
+               {false, 7, 2, 2}, {false, -2, 0, 0}, {false, 1, 1, 1}};
+  for (const auto& c : cases)
+    for (const bool beforeBuild : {true, false}) {
+      SCOPED_TRACE(std::to_string(c.combo) + " " + std::to_string(c.set) + " " + std::to_string(beforeBuild));
+      ControlWindow window;
+      SoDialogChoice* node = c.combo ? static_cast<SoDialogChoice*>(makeChoice<SoDialogComboBox>("", {"a", "b", "c"}))
+                                     : makeChoice<SoDialogRadioButtons>("", {"a", "b", "c"});
+      if (beforeBuild)
+        node->selectedItem = c.set;
+      window.build(node);
+      if (!beforeBuild)
+        node->selectedItem = c.set;
+      EXPECT_EQ(node->selectedItem.getValue(), c.stored);
+      EXPECT_EQ(c.combo ? comboOf(window)->currentIndex() : checkedIndex(window), c.shown);
+    }
+
   ControlWindow window;
-  SoDialogComboBox* node = makeChoice<SoDialogComboBox>("", {"a", "b", "c"});
-  node->selectedItem = 9;
-  window.build(node);
-  EXPECT_EQ(node->selectedItem.getValue(), 2);
-  EXPECT_EQ(comboOf(window)->currentIndex(), 2);
-
-  node->selectedItem = 0;
-  EXPECT_EQ(comboOf(window)->currentIndex(), 0);
-  node->selectedItem = 5;
-  EXPECT_EQ(node->selectedItem.getValue(), 2);
-  EXPECT_EQ(comboOf(window)->currentIndex(), 2);
-  node->selectedItem = -3;
-  EXPECT_EQ(node->selectedItem.getValue(), -3);
-  EXPECT_EQ(comboOf(window)->currentIndex(), -1) << "nothing is shown as chosen";
-
-  node->removeItem(2);
-  node->removeItem(1);
-  node->selectedItem = 1;
+  SoDialogComboBox* shrunk = makeChoice<SoDialogComboBox>("", {"a", "b", "c"});
+  window.build(shrunk);
+  shrunk->removeItem(2);
+  shrunk->removeItem(1);
+  shrunk->selectedItem = 1;
   EXPECT_EQ(comboOf(window)->count(), 1);
-  EXPECT_EQ(node->selectedItem.getValue(), 0) << "the list's new length bounds the selection";
+  EXPECT_EQ(shrunk->selectedItem.getValue(), 0) << "the list's new length bounds the selection";
 }
 
 TEST(DialogComboBox, userChoiceTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidget)
@@ -294,21 +305,6 @@ TEST(DialogRadioButtons, buildsOneButtonPerChoiceInATitledBox)
   EXPECT_EQ(buttonsOf(window)[3]->text(), QString("Extra"));
   node->items.set1Value(0, "Rough");
   EXPECT_EQ(buttonsOf(window)[0]->text(), QString("Rough"));
-}
-
-TEST(DialogRadioButtons, selectionOutOfRangeIsMendedAtBothEnds)
-{
-  ControlWindow window;
-  SoDialogRadioButtons* node = makeChoice<SoDialogRadioButtons>("", {"a", "b", "c"});
-  node->selectedItem = 7;
-  window.build(node);
-  EXPECT_EQ(node->selectedItem.getValue(), 2);
-  EXPECT_EQ(checkedIndex(window), 2);
-  node->selectedItem = -2;
-  EXPECT_EQ(node->selectedItem.getValue(), 0);
-  EXPECT_EQ(checkedIndex(window), 0);
-  node->selectedItem = 1;
-  EXPECT_EQ(checkedIndex(window), 1);
 }
 
 TEST(DialogRadioButtons, clickTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidget)

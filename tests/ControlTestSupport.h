@@ -50,8 +50,8 @@ struct ControlWindow {
   }
 };
 
-// A component of a chosen natural size that counts its change calls and,
-// like a control, can make a frame of its own once its layout stands.
+// A component of a chosen natural size that, like a control, can make a
+// frame of its own once its layout stands.
 class ProbeComponent : public SoDialogComponent {
 public:
   using SoDialogComponent::buildMode;
@@ -63,7 +63,7 @@ public:
 
   SbVec2i32 initSize{40, 20};
   bool makesFrame = false;
-  int changes2D = 0, changes3D = 0, enabledState = -1;
+  int enabledState = -1;
 
   void build(QWidget* parent, int mode = 1, SbVec2i32 useSize = SbVec2i32(0, 0), SbVec2i32 size = SbVec2i32(0, 0))
   {
@@ -82,14 +82,6 @@ protected:
     componentLayout->addWidget(componentWidget, 0);
     componentLayout->addItem(layoutSpacer);
   }
-  void changeLabelVisibility() override { ++changes2D; }
-  void changeEdgeStyle() override
-  {
-    ++changes2D;
-    SoDialogComponent::changeEdgeStyle();
-  }
-  void change3DLabelVisibility() override { ++changes3D; }
-  void change3DEdgeStyle() override { ++changes3D; }
 };
 
 // A component whose natural size is given outright, so that it survives the

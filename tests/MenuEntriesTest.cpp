@@ -17,7 +17,6 @@
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPointer>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -216,37 +215,6 @@ TEST(MenuEntryDefaults, unreadableKeysLeaveNoShortcutAndNoMessage)
     EXPECT_TRUE(menu.actions().last()->shortcut().isEmpty()) << text;
   }
   EXPECT_EQ(messages.count(), 0u);
-}
-
-TEST(MenuEntryDefaults, aDestroyedEntrysActionStaysAndDoesNothingTillItsMenuGoes)
-{
-  struct Doomed : SoMenuPushButton {
-    ~Doomed() override = default;
-  };
-  // The node goes first: the action stays, inert, and its Qt side goes with
-  // the menu.
-  auto* menu = new QMenu;
-  auto* entry = new Doomed;
-  entry->label = "Gone";
-  entry->buildMenu(menu, 1, -1);
-  delete entry;
-  ASSERT_EQ(menu->actions().size(), 1);
-  EXPECT_EQ(menu->actions()[0]->text(), "Gone");
-  menu->actions()[0]->trigger();
-  const QPointer<QObject> side = menu->actions()[0]->parent();
-  ASSERT_FALSE(side.isNull());
-  delete menu;
-  EXPECT_TRUE(side.isNull());
-
-  // The menu goes first: the node still holds its Qt side, which goes with it.
-  menu = new QMenu;
-  entry = new Doomed;
-  entry->buildMenu(menu, 1, -1);
-  const QPointer<QObject> held = menu->actions()[0]->parent();
-  delete menu;
-  ASSERT_FALSE(held.isNull());
-  delete entry;
-  EXPECT_TRUE(held.isNull());
 }
 
 TEST(MenuEntryDefaults, sizesForTheSceneForm)

@@ -4,9 +4,13 @@
 #include "ControlTestSupport.h"
 #include "TestSupport.h"
 
+#include <SoDialogCheckBoxLauncher.h>
+#include <SoDialogPushButtonLauncher.h>
 #include <SoMenuBar.h>
 #include <SoMenuItem.h>
+#include <SoMenuCheckBoxLauncher.h>
 #include <SoMenuPopup.h>
+#include <SoMenuPushButtonLauncher.h>
 #include <SoTopLevelDialog.h>
 
 #include <QAction>
@@ -130,38 +134,52 @@ TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
   EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early", "First", "Other"})) << "nothing leaves the Qt menu";
 }
 
-TEST_F(MenuStructure, misuseOfTheChildOperationsIsReported)
+// Misuse of a container's child operations, which is reported and changes
+// nothing, on a container of two children. The last index that a removal or
+// replacement names is the count for some containers and the count less one
+// for others; the launchers' getChild adds a warning.
+template <class Container, class Child>
+void expectMisuseReported(const std::string& name, int lastIndex, const char* getChildWarning)
 {
-  DebugMessages messages;
-  bar->addChild(nullptr);
-  EXPECT_TRUE(messages.contains("SoMenuBar::addChild(): NULL child node"));
-  bar->insertChild(makeNode<SoMenuPopup>(), 3);
-  EXPECT_TRUE(messages.contains("SoMenuBar::insertChild(): Index 3 is out of range 0 - 2"));
-  EXPECT_EQ(bar->getChild(2), nullptr);
-  EXPECT_TRUE(messages.contains("SoMenuBar::getChild(): Index 2 is out of range 0 - 2"));
-  EXPECT_FALSE(messages.contains("Be careful"));
-  bar->removeChild(makeNode<SoMenuPopup>());
-  EXPECT_TRUE(messages.contains("SoMenuBar::removeChild(): Index -1 is out of range 0 - 2"));
-  bar->replaceChild(2, makeNode<SoMenuPopup>());
-  EXPECT_TRUE(messages.contains("SoMenuBar::replaceChild(): Index 2 is out of range 0 - 2"));
-  file->insertChild(makeNode<SoMenuPopup>(), 2);
-  EXPECT_TRUE(messages.contains("SoMenuPopup::insertChild(): Index 2 is out of range 0 - 1"));
-  ASSERT_EQ(messages.count(), 6u);
+  SCOPED_TRACE(name);
+  auto* container = makeNode<Container>();
+  Child* kept[] = {new Child, new Child};
+  container->addChild(kept[0]);
+  container->addChild(kept[1]);
 
-  EXPECT_EQ(bar->getChild(-1), nullptr);
-  EXPECT_EQ(messages.count(), 6u) << "a negative index is not reported";
-  file->insertChild(new SoMenuPopup, 1);
-  EXPECT_EQ(file->getNumChildren(), 2) << "the index just past the end is valid";
-  EXPECT_EQ(bar->getNumChildren(), 2);
+  DebugMessages messages;
+  const std::string last = std::to_string(lastIndex);
+  container->addChild(nullptr);
+  EXPECT_TRUE(messages.contains(name + "::addChild(): NULL child node"));
+  container->insertChild(makeNode<Child>(), 3);
+  EXPECT_TRUE(messages.contains(name + "::insertChild(): Index 3 is out of range 0 - 2"));
+  EXPECT_EQ(container->getChild(2), nullptr);
+  EXPECT_TRUE(messages.contains(name + "::getChild(): Index 2 is out of range 0 - 2" + getChildWarning));
+  EXPECT_EQ(messages.countHolding("Be careful"), *getChildWarning ? 1 : 0);
+  container->removeChild(makeNode<Child>());
+  EXPECT_TRUE(messages.contains(name + "::removeChild(): Index -1 is out of range 0 - " + last));
+  container->removeChild(5);
+  EXPECT_TRUE(messages.contains(name + "::removeChild(): Index 5 is out of range 0 - " + last));
+  container->replaceChild(2, makeNode<Child>());
+  EXPECT_TRUE(messages.contains(name + "::replaceChild(): Index 2 is out of range 0 - " + last));
+  EXPECT_EQ(messages.count(), 6u) << messages.joined();
+  ASSERT_EQ(container->getNumChildren(), 2);
+  EXPECT_TRUE(container->getChild(0) == kept[0] && container->getChild(1) == kept[1]);
+
+  auto* appended = new Child;
+  container->insertChild(appended, 2);
+  EXPECT_EQ(container->getChild(2), appended) << "the index just past the end appends";
+  EXPECT_EQ(appended->getParent(), container);
 }
 
-TEST(MenuFiles, onlyPopupsGoInBarsAndOnlyItemsInPopups)
+TEST(MenuContainers, misuseOfTheChildOperationsIsReported)
 {
-  DebugMessages messages;
-  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPushButton { } } }\n"), nullptr);
-  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nMenuPopup { DialogLabel { } }\n"), nullptr);
-  EXPECT_EQ(readScene("#Inventor V2.1 ascii\nMenuBar { MenuBar { } }\n"), nullptr);
-  EXPECT_NE(readScene("#Inventor V2.1 ascii\nMenuPopup { MenuPopup { } MenuSeparator { } }\n"), nullptr);
+  expectMisuseReported<SoMenuBar, SoMenuPopup>("SoMenuBar", 2, "");
+  expectMisuseReported<SoMenuPopup, SoMenuPopup>("SoMenuPopup", 2, "");
+  expectMisuseReported<SoMenuPushButtonLauncher, SoTopLevelDialog>("SoMenuPushButtonLauncher", 1, "; Be careful");
+  expectMisuseReported<SoMenuCheckBoxLauncher, SoTopLevelDialog>("SoMenuCheckBoxLauncher", 1, "; Be careful");
+  expectMisuseReported<SoDialogPushButtonLauncher, SoTopLevelDialog>("SoDialogPushButtonLauncher", 2, "; Be careful");
+  expectMisuseReported<SoDialogCheckBoxLauncher, SoTopLevelDialog>("SoDialogCheckBoxLauncher", 2, "; Be careful");
 }
 
 TEST_F(MenuStructure, searchEntersPopupsAndCascades)

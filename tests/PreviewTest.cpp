@@ -88,19 +88,9 @@ TEST(Preview, aClickInTheSceneWorksTheControlUnderItAndPrintsItsLine)
   EXPECT_EQ(run.out, "DialogCheckBox \"binary\": TRUE\nDialogCheckBox \"binary\": FALSE\n");
 }
 
-std::string deepGroups(int depth)
-{
-  std::string text = "#Inventor V2.1 ascii\nTopLevelDialog {\n";
-  for (int i = 0; i < depth; ++i)
-    text += "RowDialog {\n";
-  text += "DialogLabel { label \"bottom\" }\n";
-  for (int i = 0; i < depth; ++i)
-    text += "}\n";
-  return text + "}\n";
-}
-
 // Given a bad file the preview ends by itself: 0 when it rendered the dialog,
 // 1 with one line of its own when it refused; never by a signal or a hang.
+// What the library makes of each kind of bad file is tested on its own.
 TEST(Preview, badFilesEndWithZeroOrOneAndOneLineWhenRefused)
 {
   QTemporaryDir dir;
@@ -112,16 +102,10 @@ TEST(Preview, badFilesEndWithZeroOrOneAndOneLineWhenRefused)
   } cases[] = {
     {"negative sizes", "#Inventor V2.1 ascii\nTopLevelDialog { width -50 DialogCheckBox { width -30 minWidth -5 } }\n",
      0},
-    {"huge sizes", "#Inventor V2.1 ascii\nTopLevelDialog { width 2000000000 height 2000000000 DialogLabel { } }\n",
-     0},
-    {"huge margins", "#Inventor V2.1 ascii\nTopLevelDialog { margin 2000000000 rowSpacing 2000000000 DialogLabel { } }\n",
-     0},
-    {"five hundred nested rows", deepGroups(500), 0},
     {"a window with nothing in it", "#Inventor V2.1 ascii\nTopLevelDialog { label \"Empty\" }\n", 0},
     {"a file that includes itself", "#Inventor V2.1 ascii\nSeparator { File { name \"" + ownPath + "\" } }\n", 1},
     {"no dialog in it", "#Inventor V2.1 ascii\nSeparator { Cube { } }\n", 1},
     {"not the format", "\x7f" "ELF\x02\x01\x01 binary bytes", 1},
-    {"cut short", "#Inventor V2.1 ascii\nTopLevelDialog { DialogLabel { label \"", 1},
     {"empty", "", 1},
     {"a missing file", "", 1},
     {"an identifier that names nothing", "", 1},

@@ -181,7 +181,6 @@ TEST(TabDialog, removingTheSelectedPageFallsBackToThePreviousSelection)
   built.tabs->selectedPage = 2;
   built.tabs->removeChild(2); // the selected last page
   EXPECT_EQ(built.tabs->selectedPage.getValue(), 1);
-  EXPECT_EQ(tabTexts(built.tabWidget), (std::vector<std::string>{"A", "B"}));
   EXPECT_EQ(built.tabWidget->currentIndex(), 1);
 
   built.tabs->removeChild(1); // the selection remembered went as well

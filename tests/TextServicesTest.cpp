@@ -101,6 +101,7 @@ TEST(TextServices, newFontChangesLaterMeasuresButNotBuiltWidgets)
   const QFont original = SoFormwright::getFormwrightFont();
   QWidget built;
   SoFormwright::setWidgetFont(&built);
+  const SbVec2i32 before = SoFormwright::getLabelPixelSize("Name:", nullptr); // kept once measured
   QFont larger = original;
   larger.setPointSize(original.pointSize() * 3);
   SoFormwright::setFont(larger);
@@ -110,6 +111,7 @@ TEST(TextServices, newFontChangesLaterMeasuresButNotBuiltWidgets)
 
   EXPECT_EQ(measured, measure(larger, {"Name:"}));
   EXPECT_NE(measured, measure({"Name:"}));
+  EXPECT_EQ(SoFormwright::getLabelPixelSize("Name:", nullptr), before);
   EXPECT_EQ(built.font(), original);
 }
 
