@@ -31,19 +31,9 @@ public:
   void dialogRealSlider(SoDialogRealSlider* node) override { heard.push_back(node->value.getValue()); }
 };
 
-// The first slider of a class built in a process is held between its limits
-// whatever its fixedLimits says; the tests build theirs after that one.
-template <class Slider>
-void passFirstBuild()
-{
-  ControlWindow window;
-  window.build(makeNode<Slider>());
-}
-
 template <class Slider, class Number>
 Slider* makeSlider(const char* label, Number min, Number max, Number value)
 {
-  passFirstBuild<Slider>();
   Slider* node = makeNode<Slider>();
   node->label = label;
   node->min = min;
@@ -165,6 +155,33 @@ TEST(DialogIntegerSlider, typedValueMovesAFreeLimitAndIsHeldByAFixedOne)
   EXPECT_EQ(fixed->value.getValue(), 3);
   window.type("none");
   EXPECT_EQ(fixed->value.getValue(), 0) << "a text that is no number reads as 0";
+  fixed->fixedLimits = FALSE;
+  fixed->min = 1;
+  window.type("");
+  EXPECT_EQ(fixed->min.getValue(), 0) << "an emptied zone reads as 0, and the limit moves";
+  EXPECT_EQ(window.zone()->geometry().size(), QSize(textPixels("99")[0] + 8, textPixels("0")[1]))
+    << "and the zone keeps room for a digit";
+}
+
+// Each slider, the first one of its class built too, follows its own
+// fixedLimits when its value stands beyond them at the build.
+template <class Slider>
+void expectBuildHonoursFixedLimits()
+{
+  for (const bool fixed : {false, true}) {
+    ControlWindow window;
+    auto* node = makeSlider<Slider>("", 0, 10, 15);
+    node->fixedLimits = fixed;
+    window.build(node);
+    EXPECT_EQ(node->max.getValue(), fixed ? 10 : 15) << fixed;
+    EXPECT_EQ(node->value.getValue(), fixed ? 10 : 15) << fixed;
+  }
+}
+
+TEST(DialogSlider, everySliderFollowsItsOwnFixedLimits)
+{
+  expectBuildHonoursFixedLimits<SoDialogIntegerSlider>();
+  expectBuildHonoursFixedLimits<SoDialogRealSlider>();
 }
 
 TEST(DialogRealSlider, continuousTriggerDecidesWhenTheFieldFollowsADrag)
