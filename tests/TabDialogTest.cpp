@@ -249,3 +249,30 @@ TEST(TabDialog, sizesAreTheLargestPageWithRoomForTheTabs)
 }
 
 }
+namespace {
+// A page added to a built tab dialog deep in a window is laid out as a fresh
+// build of the same tree lays it out.
+TEST(TabDialog, pageInsertedAfterTheBuildGetsTheWidthOfAFreshBuild)
+{
+  const char* const wide = "A page wider than the first";
+  auto build = [](const std::string& pages) {
+    SoSeparator* root = readScene("#Inventor V2.1 ascii\nTopLevelDialog { ColumnDialog { RowDialog { TabDialog { " +
+                                  pages + "} } } " + page("A label that sets the width of the whole window") + "}\n");
+    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    window->buildDialog(nullptr, 0);
+    window->show();
+    QApplication::processEvents();
+    return window;
+  };
+  auto tabArea = [](SoTopLevelDialog* window) {
+    return window->getBaseWidget()->findChild<QTabWidget*>("FWTSoDialogQTabDialogTabWidget")->geometry();
+  };
+  SoTopLevelDialog* fresh = build(page("Short") + page(wide));
+  SoTopLevelDialog* grown = build(page("Short"));
+  auto* column = static_cast<SoDialogGroup*>(grown->getChild(0));
+  static_cast<SoTabDialog*>(static_cast<SoDialogGroup*>(column->getChild(0))->getChild(0))
+    ->addChild(makeLabel(wide));
+  QApplication::processEvents();
+  EXPECT_EQ(tabArea(grown), tabArea(fresh));
+}
+}
