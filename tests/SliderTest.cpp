@@ -162,8 +162,7 @@ TEST(DialogIntegerSlider, typedValueMovesAFreeLimitAndIsHeldByAFixedOne)
   EXPECT_EQ(window.zone()->height(), textPixels("0")[1]) << "the zone keeps room for a digit";
 }
 
-// Run as its own process, as ctest does, this builds the first slider of
-// each class.
+// Run alone, as ctest runs it, it builds the first slider of each class.
 TEST(DialogSlider, theFirstSliderOfAClassFollowsItsOwnFixedLimitsToo)
 {
   ControlWindow window;

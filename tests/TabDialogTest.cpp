@@ -254,7 +254,8 @@ TEST(TabDialog, pageInsertedAfterTheBuildGetsTheWidthOfAFreshBuild)
 {
   auto build = [](const std::string& pages) {
     SoSeparator* root = readScene("#Inventor V2.1 ascii\nTopLevelDialog { ColumnDialog { RowDialog { TabDialog { "
-                                  "auditorID \"tabs\" " + pages + "} } } " + page("A label as wide as the window") + "}\n");
+                                  "auditorID \"tabs\" " +
+                                  pages + "} } } " + page("A label as wide as the window") + "}\n");
     auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
     window->buildDialog(nullptr, 0);
     window->show();
