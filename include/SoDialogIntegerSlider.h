@@ -51,6 +51,4 @@ private:
 
   // The position of `value` between the limits; 0 when they are equal.
   float positionOf(int32_t number) const;
-  // Set until the end of the first build of any integer slider.
-  static bool s_firstBuild;
 };

@@ -50,6 +50,4 @@ private:
 
   // The position of `number` between the limits; 0 when they are equal.
   float positionOf(float number) const;
-  // Set until the end of the first build of any real slider.
-  static bool s_firstBuild;
 };

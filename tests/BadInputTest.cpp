@@ -274,7 +274,7 @@ TEST_F(BadInputs, mendedSpacingKeepsTheFileValueAndSizesComeOutDrawable)
     dialog->buildDialog(nullptr, 0);
     dialog->buildDialog(nullptr, 0);
     // One message for each node, however often it is built.
-    EXPECT_EQ(messages.countHolding(kOutside), 2) << messages.joined();
+    EXPECT_EQ(messages.countHolding("is outside 0 - "), 2) << messages.joined();
   }
   auto* box = static_cast<SoDialogCheckBox*>(dialog->getChild(0));
   EXPECT_GE(dialog->width.getValue(), 0);

@@ -14,9 +14,11 @@
 #include <Inventor/nodes/SoSwitch.h>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -242,6 +244,25 @@ TEST(DialogFileWriting, writingPartOfAPathStopsAtThePathsChild)
   EXPECT_NE(text.find("\"b\""), std::string::npos);
   EXPECT_EQ(text.find("\"c\""), std::string::npos);
   path->unref();
+}
+
+// Margins kept clear in the widgets: the sizes written after a build read
+// back the same.
+TEST(DialogFileWriting, builtWindowWithMarginsReadsBackAtItsSize)
+{
+  SoSeparator* root = readScene(std::string(kHeader) + "TopLevelDialog { margin 5 ColumnDialog { margin 4 edgeStyle "
+                                "SHADOW_IN DialogLabel { label \"Wide label\" } } DialogLabel { } }");
+  std::vector<SbVec2i32> sizes;
+  for (int round = 0; round < 2; ++round, root = readScene(writeToText(root))) {
+    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    window->buildDialog(nullptr, 0);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window->getBaseWidget()));
+    EXPECT_EQ(static_cast<SoDialogComponent*>(window->getChild(0))->getWidget()->pos(), QPoint(5, 5));
+    sizes.push_back(SbVec2i32(window->width.getValue(), window->height.getValue()));
+    window->hide();
+  }
+  EXPECT_EQ(sizes[0], sizes[1]);
 }
 
 }

@@ -32,19 +32,9 @@ public:
   void dialogRealSlider(SoDialogRealSlider* node) override { heard.push_back(node->value.getValue()); }
 };
 
-// The first slider of a class built in a process is held between its limits
-// whatever its fixedLimits says; the tests build theirs after that one.
-template <class Slider>
-void passFirstBuild()
-{
-  ControlWindow window;
-  window.build(makeNode<Slider>());
-}
-
 template <class Slider, class Number>
 Slider* makeSlider(const char* label, Number min, Number max, Number value)
 {
-  passFirstBuild<Slider>();
   Slider* node = makeNode<Slider>();
   node->label = label;
   node->min = min;
@@ -166,6 +156,23 @@ TEST(DialogIntegerSlider, typedValueMovesAFreeLimitAndIsHeldByAFixedOne)
   EXPECT_EQ(fixed->value.getValue(), 3);
   window.type("none");
   EXPECT_EQ(fixed->value.getValue(), 0) << "a text that is no number reads as 0";
+  fixed->fixedLimits = FALSE;
+  fixed->min = 1;
+  window.type("");
+  EXPECT_EQ(fixed->min.getValue(), 0) << "an emptied zone reads as 0, and the limit moves";
+  EXPECT_EQ(window.zone()->height(), textPixels("0")[1]) << "the zone keeps room for a digit";
+}
+
+// Run alone, as ctest runs it, it builds the first slider of each class.
+TEST(DialogSlider, theFirstSliderOfAClassFollowsItsOwnFixedLimitsToo)
+{
+  ControlWindow window;
+  auto* integer = makeSlider<SoDialogIntegerSlider>("", 0, 10, 15);
+  auto* real = makeSlider<SoDialogRealSlider>("", 0.0f, 1.0f, 1.5f);
+  window.build(integer);
+  window.build(real);
+  EXPECT_EQ(integer->max.getValue(), 15) << "free limits move out to the value";
+  EXPECT_EQ(real->max.getValue(), 1.5f);
 }
 
 TEST(DialogRealSlider, continuousTriggerDecidesWhenTheFieldFollowsADrag)

@@ -259,4 +259,28 @@ TEST(TabDialog, sizesAreTheLargestPageWithRoomForTheTabs)
   EXPECT_EQ(max, SbVec2i32(32767, 32767));
 }
 
+// A page added to a built tab dialog deep in a window is laid out as in a
+// fresh build of the same tree.
+TEST(TabDialog, pageInsertedAfterTheBuildGetsTheWidthOfAFreshBuild)
+{
+  auto build = [](const std::string& pages) {
+    SoSeparator* root = readScene("#Inventor V2.1 ascii\nTopLevelDialog { ColumnDialog { RowDialog { TabDialog { "
+                                  "auditorID \"tabs\" " +
+                                  pages + "} } } " + page("A label as wide as the window") + "}\n");
+    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    window->buildDialog(nullptr, 0);
+    window->show();
+    QApplication::processEvents();
+    return window;
+  };
+  auto tabArea = [](SoTopLevelDialog* window) {
+    return window->getBaseWidget()->findChild<QTabWidget*>("FWTSoDialogQTabDialogTabWidget")->geometry();
+  };
+  const QRect fresh = tabArea(build(page("Short") + page("Wider page")));
+  SoTopLevelDialog* grown = build(page("Short"));
+  static_cast<SoTabDialog*>(grown->searchForAuditorId("tabs"))->addChild(makeLabel("Wider page"));
+  QApplication::processEvents();
+  EXPECT_EQ(tabArea(grown), fresh);
+}
+
 }

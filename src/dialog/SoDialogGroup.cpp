@@ -280,8 +280,9 @@ void SoDialogGroup::addFrameAllowance(SbVec2i32& size, int sign) const
 
 void SoDialogGroup::setFrameMargins()
 {
-  const int margin = edgeStyle.getValue() != NONE ? 3 : 0;
-  componentLayout->setContentsMargins(margin, margin, margin, margin);
+  // The frame's border, then the group's own margin that the sizes count.
+  const int inset = (edgeStyle.getValue() != NONE ? 3 : 0) + SoSizeRules::usable(margin);
+  componentLayout->setContentsMargins(inset, inset, inset, inset);
 }
 
 void SoDialogGroup::computeNewChildrenSize(int axis, SbVec2i32& newSize)

@@ -35,8 +35,6 @@ int digitsOf(int32_t limit)
 }
 }
 
-bool SoDialogIntegerSlider::s_firstBuild = true;
-
 SoDialogIntegerSlider::SoDialogIntegerSlider()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogIntegerSlider);
@@ -78,10 +76,9 @@ float SoDialogIntegerSlider::positionOf(int32_t number) const
 
 void SoDialogIntegerSlider::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
-  SoSliderLimits<SoDialogIntegerSlider>::holdValue(*this, fixedLimits.getValue() || s_firstBuild);
+  SoSliderLimits<SoDialogIntegerSlider>::holdValue(*this, fixedLimits.getValue() != 0);
   SoDialogSlider::buildWidget(parent, useSize, size, mode);
   SoSliderLimits<SoDialogIntegerSlider>::watchAndShow(*this);
-  s_firstBuild = false;
 }
 
 void SoDialogIntegerSlider::updateFromSensor(SoSensor* sensor)

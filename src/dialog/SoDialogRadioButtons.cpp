@@ -18,6 +18,8 @@
 
 #include <QBoxLayout>
 #include <QRadioButton>
+#include <QSize>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -209,15 +211,25 @@ SbVec2i32 SoDialogRadioButtons::getComponentInitSize()
     title = getLabelPixelSize(label.getValue(), nullptr);
   buttonsSize.setValue(0, 0);
   fixItemsNumber();
+  QStringList choices;
   for (int i = 0; i < getRealItemCount(); ++i) {
     const SbVec2i32 text = getLabelPixelSize(items[i], nullptr);
     buttonsSize[0] = std::max(buttonsSize[0], text[0]);
     buttonsSize[1] += text[1];
+    choices << SoControlWidgets::toWidgetText(items[i]);
   }
   // The group box's frame and the buttons' indicators.
   buttonsSize[1] += 30;
   title[0] += 24;
   buttonsSize[0] += 48;
+  // A font whose text is lower than a button's indicator would have the
+  // buttons clipped in these sizes: they grow until every button shows whole.
+  QString shownTitle;
+  if (labelVisibility.getValue())
+    shownTitle = SoControlWidgets::toWidgetText(convertToCString(label.getValue(), nullptr));
+  const QSize whole = SoDialogQRadioButtons::frameSizeFor(shownTitle, choices);
+  buttonsSize[0] = std::max(buttonsSize[0], int32_t(whole.width()));
+  buttonsSize[1] = std::max(buttonsSize[1], int32_t(whole.height()));
   // A title wider than the buttons gives the whole result, its small height
   // included.
   SbVec2i32 result = title[0] > buttonsSize[0] ? title : buttonsSize;

@@ -15,8 +15,6 @@
 
 SO_FORMWRIGHT_SOURCE(SoDialogRealSlider, SoDialogSlider, "DialogRealSlider")
 
-bool SoDialogRealSlider::s_firstBuild = true;
-
 SoDialogRealSlider::SoDialogRealSlider()
 {
   SO_FORMWRIGHT_CONSTRUCTOR(SoDialogRealSlider);
@@ -59,10 +57,9 @@ float SoDialogRealSlider::positionOf(float number) const
 
 void SoDialogRealSlider::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
-  SoSliderLimits<SoDialogRealSlider>::holdValue(*this, fixedLimits.getValue() || s_firstBuild);
+  SoSliderLimits<SoDialogRealSlider>::holdValue(*this, fixedLimits.getValue() != 0);
   SoDialogSlider::buildWidget(parent, useSize, size, mode);
   SoSliderLimits<SoDialogRealSlider>::watchAndShow(*this);
-  s_firstBuild = false;
 }
 
 void SoDialogRealSlider::updateFromSensor(SoSensor* sensor)

@@ -316,7 +316,10 @@ void SoDialogSlider::updateEditWidget()
     x += 18;
   if (labelVisibility.getValue())
     x += labelSize[0] + 2;
-  const SbVec2i32 text = getLabelPixelSize(SbString(sliderWidget->getEditText().toUtf8().constData()), nullptr);
+  // An emptied zone keeps the height of one digit, or it could not be
+  // clicked again.
+  const QString shown = sliderWidget->getEditText();
+  const SbVec2i32 text = getLabelPixelSize(SbString(shown.isEmpty() ? "0" : shown.toUtf8().constData()), nullptr);
   const int32_t y = 3 + (height.getValue() - 6 - text[1]) / 2;
   sliderWidget->setEditPlace(QRect(x, y, editZoneWidth, text[1]));
 }

@@ -171,14 +171,17 @@ void SoMenuBar::rayPick(SoRayPickAction* action)
   addInterfaceDetails(action);
 }
 
+// A rebuild keeps the bar that holds the popups' menus: a new one would
+// stay empty, as the popups build their menus once.
 void SoMenuBar::createMenuBar(QWidget* parent)
 {
-  menuBar = new QMenuBar(parent);
+  if (!menuBar)
+    menuBar = new QMenuBar(parent);
   // A bar belongs to a window; one built on its own has no layout to go in.
   if (!parentNode || !parentNode->isOfType(SoTopLevelDialog::getClassTypeId()))
     return;
   QWidget* window = static_cast<SoTopLevelDialog*>(parentNode)->getBaseWidget();
-  if (window && window->layout())
+  if (window && window->layout() && window->layout()->menuBar() != menuBar)
     window->layout()->setMenuBar(menuBar);
 }
 

@@ -77,7 +77,8 @@ void SoMenuCheckBox::insertMenuItem(int position)
 {
   id = nextMenuId++;
   menuItem = new SoMenuQCheckBox(static_cast<QMenu*>(menuParent), position, id, this);
-  changeLabel();
+  // A state read from a file shows at once, mark and text together.
+  changeState();
   changeAccelerator();
 }
 

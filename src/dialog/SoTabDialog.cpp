@@ -105,10 +105,17 @@ void SoTabDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& si
   const bool firstSceneBuild = mode == 0 && !isBuilt3D();
   SoDialogGroup::buildWidget(parent, useSize, size, mode);
   if (mode != 0) {
-    if (!existWidget(tabWidget))
+    if (!existWidget(tabWidget)) {
       createTabWidget();
-    else
+    } else {
       updatePages();
+      // The negotiation may have changed the size while Qt kept the bridge's
+      // old one, and with it no resize event places the tabs. The new size
+      // and a layout request bring the bridge back to its slot, and that
+      // resize places them.
+      tabWidget->resize(SoSizeRules::toQtSize(width.getValue()), SoSizeRules::toQtSize(height.getValue()));
+      tabWidget->updateGeometry();
+    }
     if (numChildren != 0)
       updateTabPageWidget(selectedPage.getValue());
     updateTabWidget();

@@ -41,6 +41,13 @@ SO_FORMWRIGHT_SOURCE(SoTopLevelDialog, SoFormwright, "TopLevelDialog")
 SO_FORMWRIGHT_CHILD_OPERATIONS(SoTopLevelDialog, SoTopComponent)
 
 namespace {
+// The sizes count the margin around the children; the layout keeps it clear.
+void keepMarginClear(QVBoxLayout* layout, const SoSFInt32& margin)
+{
+  const int inset = SoSizeRules::usable(margin);
+  layout->setContentsMargins(inset, inset, inset, inset);
+}
+
 // A maximum of 0 asks for the children's maximum, which is not known when
 // the window is made: Qt must not take it as a limit.
 int qtMaximum(int32_t value)
@@ -207,7 +214,7 @@ void SoTopLevelDialog::createBaseWidget(QWidget* parent)
   }
   dialogLayout = new QVBoxLayout(baseWidget);
   dialogLayout->setObjectName("FWTSoTopLevelDialogLayout");
-  dialogLayout->setContentsMargins(0, 0, 0, 0);
+  keepMarginClear(dialogLayout, margin);
   dialogLayout->setSpacing(0);
   changeLabel();
   changePosition();
@@ -232,8 +239,12 @@ void SoTopLevelDialog::setPosition(SbVec2i32& place)
 
 void SoTopLevelDialog::updateFromSensor(SoSensor* sensor)
 {
-  if (sensor == marginSensor || sensor == resizableSensor || sensor == modalFrameSensor) {
+  if (sensor == resizableSensor || sensor == modalFrameSensor) {
     // Counted at the next negotiation; nothing to change now.
+  } else if (sensor == marginSensor) {
+    // The sizes follow at the next negotiation.
+    if (existWidget(baseWidget) && dialogLayout)
+      keepMarginClear(dialogLayout, margin);
   } else if (sensor == independentMinimizedPositionSensor) {
     if (independentMinimizedPosition.getValue()) {
       position3D.disconnect();

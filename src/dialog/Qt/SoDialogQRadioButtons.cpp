@@ -7,6 +7,8 @@
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QRect>
+#include <QSize>
+#include <QStringList>
 #include <QVBoxLayout>
 
 SoDialogQRadioButtons::SoDialogQRadioButtons(QWidget* parent, SoDialogRadioButtons* node)
@@ -16,8 +18,7 @@ SoDialogQRadioButtons::SoDialogQRadioButtons(QWidget* parent, SoDialogRadioButto
   m_buttonGroup = new QButtonGroup(this);
   m_groupBox = new QGroupBox(this);
   m_groupBox->setObjectName("FWTSoDialogQRadioButtonsButtonGroupWidget");
-  m_layout = new QVBoxLayout;
-  m_groupBox->setLayout(m_layout);
+  m_layout = makeButtonLayout(m_groupBox);
   SoFormwright::setWidgetFont(m_groupBox);
   connect(m_buttonGroup, SIGNAL(idClicked(int)), this, SLOT(eventNotify(int)), Qt::AutoConnection);
 }
@@ -27,6 +28,30 @@ SoDialogQRadioButtons::~SoDialogQRadioButtons()
   delete m_layout;
   delete m_groupBox;
   delete m_buttonGroup;
+}
+
+// Qt's default margins and spacing would take more than the sizes leave
+// around the buttons; they keep only a side margin.
+QVBoxLayout* SoDialogQRadioButtons::makeButtonLayout(QGroupBox* box)
+{
+  auto* layout = new QVBoxLayout;
+  layout->setContentsMargins(9, 0, 9, 0);
+  layout->setSpacing(0);
+  box->setLayout(layout);
+  return layout;
+}
+
+QSize SoDialogQRadioButtons::frameSizeFor(const QString& title, const QStringList& choices)
+{
+  QGroupBox box(title);
+  SoFormwright::setWidgetFont(&box);
+  QVBoxLayout* layout = makeButtonLayout(&box);
+  for (const QString& choice : choices) {
+    auto* button = new QRadioButton(choice, &box);
+    SoFormwright::setWidgetFont(button);
+    layout->addWidget(button);
+  }
+  return box.sizeHint() + QSize(6, 6);
 }
 
 QRadioButton* SoDialogQRadioButtons::createButton(int index)

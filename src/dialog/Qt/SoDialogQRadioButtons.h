@@ -2,10 +2,13 @@
 
 #include "SoDialogQFrame.h"
 
+#include <QStringList>
+
 class QButtonGroup;
 class QGroupBox;
 class QRadioButton;
 class QRect;
+class QSize;
 class QVBoxLayout;
 class SoDialogRadioButtons;
 
@@ -27,6 +30,9 @@ public:
   void setTitle(const QString& title);
   void setTitleAlignment(Qt::Alignment alignment);
   void setGroupBoxPlace(const QRect& place);
+  // The smallest frame in which a box of this title gives every button of
+  // these choices its size hint.
+  static QSize frameSizeFor(const QString& title, const QStringList& choices);
 
 public Q_SLOTS:
   void eventNotify(int id);
@@ -35,6 +41,8 @@ protected:
   void placePieces() override;
 
 private:
+  static QVBoxLayout* makeButtonLayout(QGroupBox* box);
+
   SoDialogRadioButtons* m_node;
   QButtonGroup* m_buttonGroup;
   QGroupBox* m_groupBox;
