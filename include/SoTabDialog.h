@@ -130,6 +130,7 @@ private:
   bool isBuilt2D() const { return tabWidget != nullptr; }
   void placeChild(SoDialogComponent* child, int index);
   void removePage(int page);
+  void rebuildStayingPage(SoDialogComponent* child);
   // A selected page that went with its component falls back to the one
   // selected at the previous removal, or else to the first.
   void fallBackFromRemovedPage();

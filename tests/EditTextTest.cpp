@@ -202,6 +202,38 @@ TEST(DialogEditText, changingMultiLineKeepsTextSizeAndLabel)
   EXPECT_EQ(node->getWidget()->size(), kept);
 }
 
+// An auditor that switches the entry's kind while the entry is still sending
+// the change it heard.
+class KindSwitcher : public SoDialogEditTextAuditor {
+public:
+  SbBool wanted = TRUE;
+  void dialogEditText(SoDialogEditText* node) override { node->multiLine = wanted; }
+};
+
+TEST(DialogEditText, anAuditorSwitchingTheKindOfEntryGetsItAfterTheEvent)
+{
+  ShownWindow window;
+  SoDialogEditText* node = makeEditText("", "");
+  node->trigOnEnter = FALSE;
+  KindSwitcher switcher;
+  node->addAuditor(&switcher);
+  window.build(node);
+  window.show();
+  QTest::keyClick(lineOf(window), Qt::Key_A);
+  QApplication::processEvents();
+  ASSERT_NE(linesOf(window), nullptr);
+  EXPECT_EQ(linesOf(window)->toPlainText(), QString("a"));
+
+  // Return in an entry of several lines is told before the entry takes it.
+  node->trigOnEnter = TRUE;
+  switcher.wanted = FALSE;
+  linesOf(window)->moveCursor(QTextCursor::End);
+  QTest::keyClick(linesOf(window), Qt::Key_Return);
+  QApplication::processEvents();
+  ASSERT_NE(lineOf(window), nullptr);
+  EXPECT_EQ(lineOf(window)->text().left(1), QString("a"));
+}
+
 TEST(DialogEditText, naturalSizeOfSeveralLinesMakesRoomForTheScrollBar)
 {
   SoDialogEditText* node = makeEditText("", "one\\ntwo");
