@@ -75,7 +75,7 @@ protected:
   // Leaving the control commits what was typed.
   void set3DInactive() override;
 
-  SoDialogQEditText* editTextWidget = nullptr;
+  QPointer<SoDialogQEditText> editTextWidget;
   // Set while the entry's own signal is in the node: the entry must outlive it.
   bool inEntryEvent = false;
   // The text's pixel size with the entry's margins.

@@ -13,11 +13,12 @@
 #include <Inventor/sensors/SoFieldSensor.h>
 
 #include <QFont>
+#include <QPointer>
+#include <QWidget>
 
 #include <initializer_list>
 #include <vector>
 
-class QWidget;
 class SbPList;
 class SoAuditor;
 class SoDialogAuditor;
@@ -262,9 +263,13 @@ protected:
   // What the press of the current or last drag hit. The toolkit forgets its
   // pick path before the release, where most controls act.
   const SoPath* getPressPath() const { return pressPath; }
+  // Whether Qt deleted the node's widgets under it, as when the application
+  // deletes the window they stood in. Such a node takes field changes as an
+  // unbuilt one.
+  virtual bool hasLostWidgets() const { return false; }
 
   int buildMode = 0;
-  QWidget* parentWidget = nullptr;
+  QPointer<QWidget> parentWidget;
   SoFormwright* parentNode = nullptr;
   SbPList* auditorList = nullptr;
   SoFieldSensor* enableSensor = nullptr;

@@ -5,10 +5,13 @@
 #include <SoColumnDialog.h>
 #include <SoMenuBar.h>
 #include <SoRowDialog.h>
+#include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
 
 #include <SoFormMode.h>
 
+#include <QTabWidget>
+#include <QTextEdit>
 #include <gtest/gtest.h>
 
 namespace {
@@ -377,4 +380,58 @@ TEST(WindowLayout, rowsAndColumnsBuildTheirFramesLayoutsAndEnabledState)
 }
 
 
+}
+
+// An application may delete the widget a dialog was built into, or the
+// dialog's own window: the nodes go on taking values, and a later build
+// makes a working window again.
+TEST(WindowLayout, widgetsDeletedUnderTheDialogAreForgottenAndBuiltAgain)
+{
+  const std::pair<const char*, const char*> changes[] = {
+    {"L", "label \"renamed\" enable FALSE width 300 edgeStyle SHADOW_IN labelVisibility FALSE"},
+    {"E", "editText \"typed\" multiLine TRUE editable FALSE"},
+    {"S", "value 7 label \"level\""},
+    {"C", "items [\"x\", \"y\"] selectedItem 1"},
+    {"R", "items [\"p\", \"q\"] selectedItem 1"},
+    {"K", "state TRUE label \"on\""},
+    {"P", "label \"go\""},
+    {"T", "selectedPage 1 enable FALSE"},
+    {"W", "label \"again\" width 500 margin 3"},
+  };
+  enum Loss { HostDeleted, WindowDeleted, DestroyedFirst };
+  for (const Loss loss : {HostDeleted, WindowDeleted, DestroyedFirst}) {
+    SoSeparator* root = readScene(
+      "#Inventor V2.1 ascii\nDEF W TopLevelDialog { MenuBar { MenuPopup { label \"File\" "
+      "MenuPushButton { label \"Open\" } } } RowDialog { DEF L DialogLabel { label \"a\" } DEF E DialogEditText { } "
+      "DEF S DialogIntegerSlider { } DEF C DialogComboBox { items \"c\" } DEF R DialogRadioButtons { items \"r\" } "
+      "DEF K DialogCheckBox { } DEF P DialogPushButton { } DialogSeparator { } } "
+      "DEF T TabDialog { DialogLabel { label \"one\" } DialogLabel { label \"two\" } } }\n");
+    ASSERT_NE(root, nullptr);
+    auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    auto* host = new QWidget;
+    window->buildDialog(loss == WindowDeleted ? nullptr : host, loss == WindowDeleted ? 0 : 1);
+    if (loss == DestroyedFirst)
+      window->destroyWidget();
+    delete (loss == WindowDeleted ? window->getBaseWidget() : host);
+    if (loss == WindowDeleted)
+      delete host;
+    EXPECT_EQ(window->getBaseWidget(), nullptr) << loss;
+    for (const auto& [name, values] : changes)
+      EXPECT_TRUE(SoNode::getByName(name)->set(values)) << name;
+    static_cast<SoTabDialog*>(SoNode::getByName("T"))->addChild(makeLeaf("three"));
+    EXPECT_EQ(window->getBaseWidget(), nullptr) << "a change of the tree alone opens no window";
+
+    window->buildDialog(nullptr, 0);
+    QWidget* base = window->getBaseWidget();
+    ASSERT_NE(base, nullptr) << loss;
+    EXPECT_EQ(base->windowTitle(), "again");
+    auto* lines = base->findChild<QTextEdit*>("FWTSoDialogQEditTextMultiEditWidget");
+    ASSERT_NE(lines, nullptr) << loss;
+    EXPECT_EQ(lines->toPlainText(), "typed");
+    auto* tabs = base->findChild<QTabWidget*>("FWTSoDialogQTabDialogTabWidget");
+    ASSERT_NE(tabs, nullptr) << loss;
+    EXPECT_EQ(tabs->count(), 3);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+    window->destroyWidget();
+  }
 }

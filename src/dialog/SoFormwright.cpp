@@ -565,7 +565,10 @@ int SoFormwright::existWidget(QWidget* widget)
 
 void SoFormwright::fieldChangedCB(void* data, SoSensor* sensor)
 {
-  static_cast<SoFormwright*>(data)->updateFromSensor(sensor);
+  auto* node = static_cast<SoFormwright*>(data);
+  if (node->buildMode && node->hasLostWidgets())
+    node->buildMode = 0;
+  node->updateFromSensor(sensor);
 }
 
 void SoFormwright::destroy()
