@@ -53,7 +53,10 @@ public:
 
   // Counted start and end of the library; init may be called any number of
   // times, and each finish undoes one of them. init starts the toolkit;
-  // finish never ends it, as others may still use it.
+  // finish never ends it, as others may still use it. The last finish hides
+  // the dialog windows of the library's own that are still open, since past
+  // it they would stand dead and report nothing, and says so in one warning;
+  // a dialog built inside the application's widget stays the application's.
   static void init();
   static void finish();
   static bool isInitialized();
