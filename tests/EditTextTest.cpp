@@ -202,8 +202,8 @@ TEST(DialogEditText, changingMultiLineKeepsTextSizeAndLabel)
   EXPECT_EQ(node->getWidget()->size(), kept);
 }
 
-// An auditor that switches the entry's kind while the entry is still sending
-// the change it heard.
+// An auditor switches the kind of entry while the entry sends its change,
+// typed or Return in several lines: the switch comes after, with the text.
 class KindSwitcher : public SoDialogEditTextAuditor {
 public:
   SbBool wanted = TRUE;
@@ -223,8 +223,6 @@ TEST(DialogEditText, anAuditorSwitchingTheKindOfEntryGetsItAfterTheEvent)
   QApplication::processEvents();
   ASSERT_NE(linesOf(window), nullptr);
   EXPECT_EQ(linesOf(window)->toPlainText(), QString("a"));
-
-  // Return in an entry of several lines is told before the entry takes it.
   node->trigOnEnter = TRUE;
   switcher.wanted = FALSE;
   linesOf(window)->moveCursor(QTextCursor::End);
