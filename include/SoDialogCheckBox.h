@@ -49,7 +49,7 @@ protected:
   void change3DLabelAlignment() override;
   void change3DLabelVisibility() override;
 
-  SoDialogQCheckBox* checkBoxWidget = nullptr;
+  QPointer<SoDialogQCheckBox> checkBoxWidget;
   SoFieldSensor* stateSensor = nullptr;
   SoFieldSensor* onStringSensor = nullptr;
   SoFieldSensor* offStringSensor = nullptr;

@@ -26,7 +26,7 @@ public:
 protected:
   ~SoDialogComboBox() override;
 
-  SoDialogQComboBox* comboBoxWidget = nullptr;
+  QPointer<SoDialogQComboBox> comboBoxWidget;
 
   // The 3D form: a frame with the selected item's text and a small button,
   // and below it a list of item blocks, hidden while the list is closed.

@@ -2,11 +2,13 @@
 
 #include "SoTopComponent.h"
 
+#include <QBoxLayout>
+#include <QPointer>
+
 #include <Inventor/fields/SoSFBool.h>
 #include <Inventor/fields/SoSFEnum.h>
 #include <Inventor/fields/SoSFInt32.h>
 
-class QBoxLayout;
 class QSpacerItem;
 class SoScale;
 class SoText3;
@@ -41,6 +43,7 @@ public:
   // measures its label and component parts itself.
   void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
   void destroyWidget() override;
+  bool hasLostWidgets() const override { return componentWidget.isNull(); }
   void updateFromSensor(SoSensor* sensor) override;
   // Forgets every measure, so that the next build starts afresh.
   void resetSize() override;
@@ -115,12 +118,12 @@ protected:
   SbVec2i32 pixelPosition{0, 0};
 
   // The parent widget until the control makes its frame, then that frame.
-  QWidget* componentWidget = nullptr;
-  QBoxLayout* componentLayout = nullptr;
+  QPointer<QWidget> componentWidget;
+  QPointer<QBoxLayout> componentLayout;
   QSpacerItem* layoutSpacer = nullptr;
   // A control's label widget, where it has one apart from its frame; a
   // control whose label widget is its frame owns it no more.
-  QWidget* labelWidget = nullptr;
+  QPointer<QWidget> labelWidget;
   char ownsLabelWidget = 1;
   SbVec2i32 componentSize{0, 0};
   SbVec2i32 labelSize{0, 0};
@@ -160,5 +163,5 @@ private:
   // The layout that places this component in its parent's layout, with the
   // frame and the spacer in it. It goes when the frame goes, so that the
   // parent keeps no room for a removed component.
-  QBoxLayout* placedLayout = nullptr;
+  QPointer<QBoxLayout> placedLayout;
 };

@@ -21,7 +21,7 @@ public:
 protected:
   ~SoDialogCustom() override;
 
-  QFrame* customWidget = nullptr;
+  QPointer<QFrame> customWidget;
 
 private:
   void createCustomWidget();

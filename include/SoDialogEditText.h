@@ -75,7 +75,9 @@ protected:
   // Leaving the control commits what was typed.
   void set3DInactive() override;
 
-  SoDialogQEditText* editTextWidget = nullptr;
+  QPointer<SoDialogQEditText> editTextWidget;
+  // Set while the entry's own signal is in the node: the entry must outlive it.
+  bool inEntryEvent = false;
   // The text's pixel size with the entry's margins.
   SbVec2i32 editPixelSize{0, 0};
   SoFieldSensor* editTextSensor = nullptr;
@@ -123,6 +125,7 @@ protected:
   SoSFNode textProp;
 
 private:
+  void sendEntryEvent(unsigned int event);
   void createLabelWidget();
   // Puts a new entry frame into the component's layout at `index`, -1
   // being the end.

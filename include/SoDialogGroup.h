@@ -105,7 +105,7 @@ protected:
   SoDialogComponent* getComponent(int index) const { return static_cast<SoDialogComponent*>((*children)[index]); }
 
   int32_t numChildren = 0;
-  QFrame* groupWidget = nullptr;
+  QPointer<QFrame> groupWidget;
   SoDialogGroupAuditor* defaultAuditor = nullptr;
   SoChildSizeTable sizeTable;
   // False for a kind of group that makes a frame of its own in its place.

@@ -63,7 +63,7 @@ protected:
   // Whether the press hit the block or its caption, not the label.
   bool pressHitsButton(const SoPath* path) const;
 
-  SoDialogQPushButton* buttonWidget = nullptr;
+  QPointer<SoDialogQPushButton> buttonWidget;
   // The button text's pixel size with the button's margins.
   SbVec2i32 buttonPixelSize{0, 0};
   SoFieldSensor* buttonLabelSensor = nullptr;

@@ -22,7 +22,7 @@ public:
 protected:
   ~SoDialogSeparator() override;
 
-  SoDialogQSeparator* separatorWidget = nullptr;
+  QPointer<SoDialogQSeparator> separatorWidget;
   int32_t orientationHorz = 1;
 
   SoSFNode frameSep;

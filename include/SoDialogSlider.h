@@ -123,7 +123,7 @@ protected:
   ValueKey read3DKey(const SoKeyboardEvent* event, char& typed);
   void store3DEditText(const SbString& text);
 
-  SoDialogQSlider* sliderWidget = nullptr;
+  QPointer<SoDialogQSlider> sliderWidget;
   SoDialogCustomSlider* customSlider = nullptr;
   // Cleared once the frame owns the bar.
   char ownsCustomSlider = 1;

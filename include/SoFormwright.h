@@ -13,11 +13,12 @@
 #include <Inventor/sensors/SoFieldSensor.h>
 
 #include <QFont>
+#include <QPointer>
+#include <QWidget>
 
 #include <initializer_list>
 #include <vector>
 
-class QWidget;
 class SbPList;
 class SoAuditor;
 class SoDialogAuditor;
@@ -52,7 +53,10 @@ public:
 
   // Counted start and end of the library; init may be called any number of
   // times, and each finish undoes one of them. init starts the toolkit;
-  // finish never ends it, as others may still use it.
+  // finish never ends it, as others may still use it. The last finish hides
+  // the dialog windows of the library's own that are still open, since past
+  // it they would stand dead and report nothing, and says so in one warning;
+  // a dialog built inside the application's widget stays the application's.
   static void init();
   static void finish();
   static bool isInitialized();
@@ -263,9 +267,13 @@ protected:
   // What the press of the current or last drag hit. The toolkit forgets its
   // pick path before the release, where most controls act.
   const SoPath* getPressPath() const { return pressPath; }
+  // Whether Qt deleted the node's widgets under it, as when the application
+  // deletes the window they stood in. Such a node takes field changes as an
+  // unbuilt one.
+  virtual bool hasLostWidgets() const { return false; }
 
   int buildMode = 0;
-  QWidget* parentWidget = nullptr;
+  QPointer<QWidget> parentWidget;
   SoFormwright* parentNode = nullptr;
   SbPList* auditorList = nullptr;
   SoFieldSensor* enableSensor = nullptr;

@@ -95,7 +95,7 @@ protected:
   void setChildrenComponentSize() override;
   void setChildrenLabelSize() override;
 
-  SoDialogQTabDialog* tabWidget = nullptr;
+  QPointer<SoDialogQTabDialog> tabWidget;
   // Per page, the frame of its component.
   SoDialogWidgetList childrenWidgets;
   SoFieldSensor* selectedPageSensor = nullptr;
@@ -127,9 +127,10 @@ private:
   // Builds each component again into its page, with the sizes negotiated
   // since.
   void updatePages();
-  bool isBuilt2D() const { return tabWidget != nullptr; }
+  bool isBuilt2D() const { return !tabWidget.isNull(); }
   void placeChild(SoDialogComponent* child, int index);
   void removePage(int page);
+  void rebuildStayingPage(SoDialogComponent* child);
   // A selected page that went with its component falls back to the one
   // selected at the previous removal, or else to the first.
   void fallBackFromRemovedPage();

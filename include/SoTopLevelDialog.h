@@ -3,6 +3,7 @@
 #include "SoChildSizeTable.h"
 #include "SoFormwright.h"
 
+#include <QBoxLayout>
 #include <QPointer>
 #include <QWidget>
 
@@ -10,7 +11,6 @@
 #include <Inventor/fields/SoSFVec2i32.h>
 #include <Inventor/fields/SoSFVec3f.h>
 
-class QVBoxLayout;
 class SbPlaneProjector;
 class SoChildList;
 class SoClipPlane;
@@ -65,6 +65,11 @@ public:
   void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
   void updateFromSensor(SoSensor* sensor) override;
   void resetSize() override;
+  // Deletes the widgets of the whole tree and the window, or leaves the
+  // widget the dialog was built into empty: an application calls it before
+  // it deletes that widget. The fields keep their values for the next build.
+  void destroyWidget() override;
+  bool hasLostWidgets() const override { return baseWidget.isNull(); }
 
   virtual void show();
   virtual void hide();
@@ -143,7 +148,7 @@ protected:
   virtual int readChildren(SoInput* in);
   SbBool readInstance(SoInput* in, unsigned short flags) override;
 
-  QWidget* baseWidget = nullptr;
+  QPointer<QWidget> baseWidget;
   int32_t buildInsideParent = 0;
   // Stays null in the widget form: the base widget is the window.
   QWidget* topLevelWidget = nullptr;
@@ -153,7 +158,7 @@ protected:
   // anyway, such as a control's frame.
   QPointer<QWidget> currentFocusedWidget;
   QPointer<QWidget> currentScrolledWidget;
-  QVBoxLayout* dialogLayout = nullptr;
+  QPointer<QVBoxLayout> dialogLayout;
   int32_t captureDefaults = 1;
   SbVec2i32 defaultSize{0, 0};
   SbVec2i32 defaultMinSize{0, 0};

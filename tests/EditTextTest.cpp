@@ -202,6 +202,36 @@ TEST(DialogEditText, changingMultiLineKeepsTextSizeAndLabel)
   EXPECT_EQ(node->getWidget()->size(), kept);
 }
 
+// An auditor switches the kind of entry while the entry sends its change,
+// typed or Return in several lines: the switch comes after, with the text.
+class KindSwitcher : public SoDialogEditTextAuditor {
+public:
+  SbBool wanted = TRUE;
+  void dialogEditText(SoDialogEditText* node) override { node->multiLine = wanted; }
+};
+
+TEST(DialogEditText, anAuditorSwitchingTheKindOfEntryGetsItAfterTheEvent)
+{
+  ShownWindow window;
+  SoDialogEditText* node = makeEditText("", "");
+  node->trigOnEnter = FALSE;
+  KindSwitcher switcher;
+  node->addAuditor(&switcher);
+  window.build(node);
+  window.show();
+  QTest::keyClick(lineOf(window), Qt::Key_A);
+  QApplication::processEvents();
+  ASSERT_NE(linesOf(window), nullptr);
+  EXPECT_EQ(linesOf(window)->toPlainText(), QString("a"));
+  node->trigOnEnter = TRUE;
+  switcher.wanted = FALSE;
+  linesOf(window)->moveCursor(QTextCursor::End);
+  QTest::keyClick(linesOf(window), Qt::Key_Return);
+  QApplication::processEvents();
+  ASSERT_NE(lineOf(window), nullptr);
+  EXPECT_EQ(lineOf(window)->text().left(1), QString("a"));
+}
+
 TEST(DialogEditText, naturalSizeOfSeveralLinesMakesRoomForTheScrollBar)
 {
   SoDialogEditText* node = makeEditText("", "one\\ntwo");

@@ -5,6 +5,7 @@
 #include <SoDialogPushButton.h>
 #include <SoDialogPushButtonLauncher.h>
 #include <SoFormwright.h>
+#include <SoTopLevelDialog.h>
 
 #include "ScInitModuleCmd.h"
 #include "SoFormwrightClassList.h"
@@ -13,6 +14,7 @@
 #include <Inventor/fields/SoFieldData.h>
 #include <Inventor/nodekits/SoNodeKit.h>
 #include <Inventor/nodekits/SoNodekitCatalog.h>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -73,6 +75,24 @@ TEST(Lifecycle, lastFinishLeavesTheToolkitToTheApplication)
     EXPECT_EQ(readScene(kLabelFile), nullptr);
   }
   scene->unref();
+  SoFormwright::init();
+}
+
+TEST(Lifecycle, theLastFinishClosesTheLibrarysOwnWindowsOnlyAndSaysSo)
+{
+  auto* window = makeNode<SoTopLevelDialog>();
+  window->buildDialog(nullptr, 0);
+  window->show();
+  QWidget host;
+  makeNode<SoTopLevelDialog>()->buildDialog(&host, 1);
+  host.show();
+  {
+    DebugMessages messages;
+    SoFormwright::finish();
+    EXPECT_EQ(messages.countHolding("still open"), 1);
+  }
+  EXPECT_FALSE(window->getBaseWidget()->isVisible());
+  EXPECT_TRUE(host.isVisible());
   SoFormwright::init();
 }
 

@@ -104,6 +104,15 @@ TEST(TabDialog, eachComponentGetsAPageTitledByItsLabel)
 
   built.tabs->replaceChild(1, makeLabel("New"));
   EXPECT_EQ(tabTexts(built.tabWidget), (std::vector<std::string>{"Zero", "New", "Two", "Three", "Four"}));
+
+  // Inserted again at the front and removed from its old place, a page keeps
+  // its frame, in its new page.
+  auto* moved = static_cast<SoDialogComponent*>(built.tabs->getChild(2));
+  built.tabs->insertChild(moved, 0);
+  built.tabs->removeChild(3);
+  EXPECT_EQ(tabTexts(built.tabWidget), (std::vector<std::string>{"Two", "Zero", "New", "Three", "Four"}));
+  ASSERT_NE(moved->getWidget(), nullptr);
+  EXPECT_EQ(moved->getWidget()->parentWidget(), built.tabWidget->widget(0));
 }
 
 TEST(TabDialog, aRebuildReachesTheComponentsInThePages)

@@ -5,10 +5,13 @@
 #include <SoColumnDialog.h>
 #include <SoMenuBar.h>
 #include <SoRowDialog.h>
+#include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
 
 #include <SoFormMode.h>
 
+#include <QTabWidget>
+#include <QTextEdit>
 #include <gtest/gtest.h>
 
 namespace {
@@ -378,4 +381,41 @@ TEST(WindowLayout, rowsAndColumnsBuildTheirFramesLayoutsAndEnabledState)
 }
 
 
+}
+
+// The application deletes the host a dialog was built into, or the dialog's
+// own window, or destroys the widgets first: the nodes take values unbuilt
+// and a later build makes a working window.
+TEST(WindowLayout, widgetsDeletedUnderTheDialogAreForgottenAndBuiltAgain)
+{
+  const char* changes[][2] = {{"L", "label \"b\" enable FALSE width 300 edgeStyle SHADOW_IN"}, {"S", "value 7"},
+                              {"E", "editText \"typed\" multiLine TRUE"}, {"R", "items [\"p\", \"q\"]"},
+                              {"C", "items [\"x\", \"y\"]"}, {"T", "selectedPage 1"}, {"W", "label \"again\""}};
+  for (const int loss : {0, 1, 2}) {
+    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { MenuBar { MenuPopup { MenuPushButton { } } } RowDialog { "
+              "DEF L DialogLabel { } DEF E DialogEditText { } DEF S DialogIntegerSlider { } DEF C DialogComboBox { } "
+              "DEF R DialogRadioButtons { items \"r\" } DEF K DialogCheckBox { } DEF P DialogPushButton { } "
+              "DialogSeparator { } } DEF T TabDialog { DialogLabel { } DialogLabel { } } }\n");
+    auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    auto* host = new QWidget;
+    window->buildDialog(loss == 1 ? nullptr : host, loss == 1 ? 0 : 1);
+    if (loss == 2)
+      window->destroyWidget();
+    delete (loss == 1 ? window->getBaseWidget() : nullptr);
+    delete host;
+    EXPECT_EQ(window->getBaseWidget(), nullptr) << loss;
+    for (const auto& [name, values] : changes)
+      EXPECT_TRUE(SoNode::getByName(name)->set(values)) << name;
+    static_cast<SoTabDialog*>(SoNode::getByName("T"))->addChild(makeLeaf("three"));
+    EXPECT_EQ(window->getBaseWidget(), nullptr) << "a change of the tree alone opens no window";
+
+    window->buildDialog(nullptr, 0);
+    ASSERT_NE(window->getBaseWidget(), nullptr) << loss;
+    EXPECT_EQ(window->getBaseWidget()->windowTitle(), "again");
+    auto* lines = window->getBaseWidget()->findChild<QTextEdit*>("FWTSoDialogQEditTextMultiEditWidget");
+    auto* tabs = window->getBaseWidget()->findChild<QTabWidget*>("FWTSoDialogQTabDialogTabWidget");
+    ASSERT_TRUE(lines && tabs) << loss;
+    EXPECT_EQ(std::make_tuple(lines->toPlainText(), tabs->count(), tabs->currentIndex()), std::make_tuple("typed", 3, 1));
+    window->destroyWidget();
+  }
 }

@@ -8,6 +8,7 @@
 
 #include <Inventor/SbString.h>
 
+#include <QPointer>
 #include <QRect>
 #include <QString>
 #include <QStringDecoder>
@@ -66,14 +67,13 @@ inline QRect bodyPlace(int32_t frameWidth, int32_t frameHeight, int32_t labelCol
 }
 
 // Deletes a control's own frame widget, which is also its component widget:
-// the component must not delete it a second time.
+// both guards let go of it, so the component does not delete it again.
 template <class Frame>
-void deleteFrameWidget(Frame*& frame, QWidget*& componentWidget)
+void deleteFrameWidget(QPointer<Frame>& frame, QPointer<QWidget>& componentWidget)
 {
   if (componentWidget == frame)
     componentWidget = nullptr;
-  delete frame;
-  frame = nullptr;
+  delete frame.data();
 }
 
 }

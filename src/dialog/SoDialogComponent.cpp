@@ -292,8 +292,9 @@ void SoDialogComponent::destroyWidget()
       componentLayout = nullptr;
     delete placedLayout;
     placedLayout = nullptr;
-    layoutSpacer = nullptr;
   }
+  // A placing layout that Qt deleted took the spacer with it.
+  layoutSpacer = nullptr;
   SoTopComponent::destroyWidget();
 }
 

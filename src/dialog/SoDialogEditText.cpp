@@ -21,6 +21,8 @@
 #include <Inventor/projectors/SbLineProjector.h>
 
 #include <QBoxLayout>
+#include <QCoreApplication>
+#include <QPointer>
 
 #include <algorithm>
 #include <cmath>
@@ -160,6 +162,15 @@ QWidget* SoDialogEditText::getLabelWidget()
 
 void SoDialogEditText::eventNotify(unsigned int event, unsigned long long)
 {
+  const bool outerEvent = !inEntryEvent;
+  inEntryEvent = true;
+  sendEntryEvent(event);
+  if (outerEvent)
+    inEntryEvent = false;
+}
+
+void SoDialogEditText::sendEntryEvent(unsigned int event)
+{
   // The widget holds text decoded from the field's bytes; it goes back as
   // UTF-8, so that no character the user typed is lost.
   if (editTextWidget)
@@ -220,6 +231,20 @@ void SoDialogEditText::changeMultiLine()
 {
   if (!editTextWidget)
     return;
+  if (inEntryEvent) {
+    // An auditor switched the kind while the entry is still in its own
+    // signal: the entry is replaced once that signal has returned. A frame
+    // gone meanwhile took the switch with it, and a rebuild reads the field.
+    const QPointer<SoDialogQEditText> sender = editTextWidget;
+    QMetaObject::invokeMethod(
+      QCoreApplication::instance(),
+      [this, sender] {
+        if (sender && sender == editTextWidget)
+          changeMultiLine();
+      },
+      Qt::QueuedConnection);
+    return;
+  }
   QWidget* parent = editTextWidget->getParentWidget();
   const QSize size = editTextWidget->size();
   const int index = componentLayout->indexOf(editTextWidget);

@@ -35,7 +35,7 @@ SoDialogLabel::~SoDialogLabel()
 
 SoDialogQLabel* SoDialogLabel::bridge() const
 {
-  return static_cast<SoDialogQLabel*>(labelWidget);
+  return static_cast<SoDialogQLabel*>(labelWidget.data());
 }
 
 void SoDialogLabel::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)

@@ -56,7 +56,7 @@ SoDialogRadioButtons::~SoDialogRadioButtons()
 
 SoDialogQRadioButtons* SoDialogRadioButtons::bridge() const
 {
-  return static_cast<SoDialogQRadioButtons*>(labelWidget);
+  return static_cast<SoDialogQRadioButtons*>(labelWidget.data());
 }
 
 void SoDialogRadioButtons::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
@@ -85,6 +85,8 @@ void SoDialogRadioButtons::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVe
 
 void SoDialogRadioButtons::createLabelWidget()
 {
+  // Buttons left from a frame that Qt deleted went with it.
+  buttonWidgets.truncate(0);
   auto* frame = new SoDialogQRadioButtons(componentWidget, this);
   labelWidget = frame;
   componentWidget = frame;

@@ -45,6 +45,7 @@
 #include <Inventor/nodes/SoTranslation.h>
 #include <Inventor/sensors/SoFieldSensor.h>
 
+#include <QApplication>
 #include <QFontMetrics>
 #include <QWidget>
 
@@ -114,6 +115,22 @@ void SoFormwright::init()
   ++s_initRefCount;
 }
 
+namespace {
+void closeOwnWindows()
+{
+  int closed = 0;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == QLatin1String("SoTopLevelDialog") && window->isVisible()) {
+      window->hide();
+      ++closed;
+    }
+  }
+  if (closed != 0)
+    SoDebugError::postWarning("SoFormwright::finish", "%d dialog window(s) still open at the end of the library closed",
+                              closed);
+}
+}
+
 void SoFormwright::finish()
 {
   if (s_initRefCount == 0)
@@ -124,6 +141,7 @@ void SoFormwright::finish()
   // count its starts. Ending it is the application's call.
   if (s_initRefCount > 0)
     return;
+  closeOwnWindows();
   releaseFileCache();
   SoAuditor::exitClasses();
   for (auto registration = std::rbegin(kClasses); registration != std::rend(kClasses); ++registration)
@@ -569,7 +587,10 @@ int SoFormwright::existWidget(QWidget* widget)
 
 void SoFormwright::fieldChangedCB(void* data, SoSensor* sensor)
 {
-  static_cast<SoFormwright*>(data)->updateFromSensor(sensor);
+  auto* node = static_cast<SoFormwright*>(data);
+  if (node->buildMode && node->hasLostWidgets())
+    node->buildMode = 0;
+  node->updateFromSensor(sensor);
 }
 
 void SoFormwright::destroy()

@@ -141,6 +141,8 @@ void SoTabDialog::createTabWidget()
 {
   tabWidget = new SoDialogQTabDialog(componentWidget, this);
   componentWidget = tabWidget;
+  // Frames of a tab widget that Qt deleted under the node are no pages.
+  childrenWidgets.truncate(0);
   for (int i = 0; i < numChildren; ++i)
     createTabPageWidget(i);
   changeEdgeStyle();
@@ -323,9 +325,13 @@ void SoTabDialog::removeChild(int index)
   }
   getComponent(index)->destroyWidget();
   --numChildren;
+  SoDialogComponent* removed = getComponent(index);
+  removed->ref();
   children->remove(index);
   if (isBuilt2D())
     removePage(index);
+  rebuildStayingPage(removed);
+  removed->unref();
   fallBackFromRemovedPage();
   childrenChanged();
 }
@@ -359,7 +365,9 @@ void SoTabDialog::replaceChild(int index, SoDialogComponent* newChild)
     SoDebugError::post("SoTabDialog::replaceChild", "Index %d is out of range %d - %d", index, 0, numChildren - 1);
     return;
   }
-  getComponent(index)->destroyWidget();
+  SoDialogComponent* replaced = getComponent(index);
+  replaced->ref();
+  replaced->destroyWidget();
   // The new component gets a page of its own, with its own title.
   if (isBuilt2D())
     removePage(index);
@@ -367,6 +375,8 @@ void SoTabDialog::replaceChild(int index, SoDialogComponent* newChild)
   newChild->setParent(this);
   if (isBuilt2D())
     createTabPageWidget(index);
+  rebuildStayingPage(replaced);
+  replaced->unref();
   childrenChanged();
 }
 
@@ -375,6 +385,18 @@ void SoTabDialog::removePage(int page)
   // The component's frame went with its destroyWidget.
   childrenWidgets.remove(page);
   tabWidget->removePage(page);
+}
+
+// A component that stood on two pages has one frame, which went with the
+// page it left: the page where it stays builds it anew.
+void SoTabDialog::rebuildStayingPage(SoDialogComponent* child)
+{
+  const int page = findChild(child);
+  if (page < 0 || !isBuilt2D())
+    return;
+  SbVec2i32 useSize(0, 0), size(0, 0);
+  child->buildWidget(tabWidget->getPage(page), useSize, size, 1);
+  childrenWidgets[page] = child->getWidget();
 }
 
 void SoTabDialog::fallBackFromRemovedPage()

@@ -198,6 +198,20 @@ void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
   makeFieldSensor(heightSensor, height);
 }
 
+void SoTopLevelDialog::destroyWidget()
+{
+  for (int i = 0; i < numChildren; ++i)
+    static_cast<SoTopComponent*>((*children)[i])->destroyWidget();
+  // The widget the dialog was built into stays the application's.
+  if (buildInsideParent)
+    delete dialogLayout.data();
+  else
+    delete baseWidget.data();
+  baseWidget = nullptr;
+  dialogLayout = nullptr;
+  SoFormwright::destroyWidget();
+}
+
 void SoTopLevelDialog::createBaseWidget(QWidget* parent)
 {
   // With no parent to fill, the dialog opens a window of its own.
@@ -503,7 +517,9 @@ void SoTopLevelDialog::updateDialogBuild(int mode)
 
 void SoTopLevelDialog::updateAfterSceneGraphChange()
 {
-  if (buildMode)
+  // A window that Qt deleted under the dialog is built again only when the
+  // application asks.
+  if (buildMode && baseWidget)
     updateDialogBuild(1);
   if (isBuilt3D())
     updateDialogBuild(0);
