@@ -45,9 +45,6 @@ protected:
   virtual void draggerFinishCallback3D();
   void change3DState();
   void change3DOnOffString();
-  void change3DLabel() override;
-  void change3DLabelAlignment() override;
-  void change3DLabelVisibility() override;
 
   QPointer<SoDialogQCheckBox> checkBoxWidget;
   SoFieldSensor* stateSensor = nullptr;
@@ -68,8 +65,6 @@ protected:
   SoSFNode stateOn;
   SoSFNode onOffStringSep;
   SoSFNode onOffStringProp;
-  SoText3* labelText = nullptr;
-  SoTranslation* labelTranslation = nullptr;
   SoScale* frameScale = nullptr;
   SoTranslation* frameTranslation = nullptr;
   SoTransform* frameTransform = nullptr;
@@ -89,6 +84,6 @@ private:
   void changeLabelAlignment() override;
   void create3DDialogCheckBox();
   void update3DCheckBox();
-  void update3DLabel();
+  void update3DBody() override;
   static void finishCB3D(void* data, SoDragger* dragger);
 };

@@ -49,8 +49,6 @@ protected:
   SoSFNode itemFrame;
   SoSFNode itemTextSep;
   SoSFNode itemTextProp;
-  SoText3* labelText = nullptr;
-  SoTranslation* labelTranslation = nullptr;
   // Moves the frame and all that lies on it, the items included.
   SoTranslation* frameTranslation = nullptr;
   // The item blocks are always as large as the frame.
@@ -73,9 +71,6 @@ protected:
   SbBox3f textBBox;
   int listOpen = 0;
 
-  void change3DLabel() override;
-  void change3DLabelAlignment() override;
-  void change3DLabelVisibility() override;
   // Mends a selection out of range, then shows the selected item's text.
   void change3DSelectedItem() override;
   // Gives every item a block, adds and removes blocks as the list grows or
@@ -100,7 +95,7 @@ private:
   void changeLabelAlignment() override;
   void create3DDialogComboBox();
   void update3DComboBox();
-  void update3DLabel();
+  void update3DBody() override;
   static void startCB3D(void* data, SoDragger* dragger);
   void addItemBlock();
   void openList();

@@ -101,12 +101,19 @@ protected:
   // size and its centre's offset from the control's centre. A visible label
   // takes the left part.
   void get3DComponentSize(SbVec2i32& size, SbVec2i32& offset);
-  // The label left of a control's body, as the controls with a label column
-  // draw it: `text` takes the `label` field anew, and is placed in the column
-  // by the alignment, its free room halved as integers with `integerHalf`,
-  // otherwise in double.
-  void set3DSideLabelText(SoText3* text);
-  void place3DSideLabel(SoGroup* props, SoText3* text, SoTranslation* translation, bool integerHalf);
+  // The label left of a control's body in the scene, for the controls with a
+  // label column: its translation goes first in `placeGroup`, its text last
+  // in `textGroup`, drawn with `props`; `visibility` is the switch that shows
+  // it. From then on the frame follows the label fields for the control. It
+  // is placed in the column by the alignment, the free room halved as
+  // integers with `integerHalf`, otherwise in double.
+  void create3DSideLabel(SoGroup* placeGroup, SoGroup* textGroup, SoGroup* props, SoNode* visibility,
+                         bool integerHalf);
+  void update3DSideLabel();
+  // Lays the control's body out again when the label column shows or hides.
+  virtual void update3DBody();
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
 
   // The 3D form's frame: the control's centre, the size of its edge block,
   // and the lift onto the block's top.
@@ -114,6 +121,12 @@ protected:
   SoScale* cptScale = nullptr;
   SoTransform* cptTransform = nullptr;
   float cptDepth = -1.0f;
+  // The label beside the body, where the control has one in the scene.
+  SoText3* sideLabelText = nullptr;
+  SoTranslation* sideLabelTranslation = nullptr;
+  SoGroup* sideLabelProps = nullptr;
+  SoNode* sideLabelSwitch = nullptr;
+  bool sideLabelIntegerHalf = false;
   // Where the last 3D build placed the control, in pixels inside its parent.
   SbVec2i32 pixelPosition{0, 0};
 

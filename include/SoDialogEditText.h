@@ -69,9 +69,6 @@ protected:
   virtual void changeEditText();
   // Rebuilds the displayed lines from `editText`.
   void change3DEditText();
-  void change3DLabelVisibility() override;
-  void change3DLabel() override;
-  void change3DLabelAlignment() override;
   // Leaving the control commits what was typed.
   void set3DInactive() override;
 
@@ -140,7 +137,7 @@ private:
 
   void create3DDialogEditText();
   void update3DEditText();
-  void update3DLabel();
+  void update3DBody() override;
   void update3DScrollBars();
   void update3DCursors();
   void update3DTextPosition();
@@ -171,8 +168,6 @@ private:
   void draggerFinishCallback3D();
 
   SoText3* textNode = nullptr;
-  SoText3* labelText = nullptr;
-  SoTranslation* labelTranslation = nullptr;
   SoTranslation* frameTranslation = nullptr;
   SoScale* frameScale = nullptr;
   SoTransform* textTransform = nullptr;

@@ -53,9 +53,6 @@ protected:
   void change3DButtonLabel();
   // The block goes down or up, and the caption with its top.
   void change3DButtonState(int pressedNow);
-  void change3DLabel() override;
-  void change3DLabelAlignment() override;
-  void change3DLabelVisibility() override;
   // A press on the block or its caption presses the button; the release
   // fires it, wherever the pointer has gone.
   virtual void draggerStartCallback3D();
@@ -77,8 +74,6 @@ protected:
   SoSFNode pressed;
   SoSFNode buttonLabelSep;
   SoSFNode buttonLabelProp;
-  SoText3* labelText = nullptr;
-  SoTranslation* labelTranslation = nullptr;
   SoScale* frameScale = nullptr;
   SoTranslation* frameTranslation = nullptr;
   SoTransform* frameTransform = nullptr;
@@ -93,7 +88,7 @@ private:
   void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
   void create3DDialogPushButton();
   void update3DButton();
-  void update3DLabel();
+  void update3DBody() override;
   static void startCB3D(void* data, SoDragger* dragger);
   static void finishCB3D(void* data, SoDragger* dragger);
 };

@@ -108,9 +108,6 @@ protected:
   void change3DEnable() override;
   // Leaves the 3D value box; what was typed stays in it, not taken.
   void set3DInactive() override;
-  void change3DLabel() override;
-  void change3DLabelAlignment() override;
-  void change3DLabelVisibility() override;
   // What a key press does in the 3D value box.
   enum class ValueKey {
     // Return: the text is to be taken.
@@ -175,7 +172,7 @@ private:
   void change3DContinuousTrigger();
   void create3DDialogSlider();
   void update3DSlider();
-  void update3DLabel();
+  void update3DBody() override;
   // The toggle's switch: hidden, or showing the state of `continuousTrigger`.
   int toggleSwitchValue() const;
   // Moves the 3D cursor and shows the value taken from it in both forms;
@@ -192,8 +189,6 @@ private:
   // A press on the bar puts the cursor's centre at the press point.
   void jump3DCursor();
 
-  SoText3* labelText = nullptr;
-  SoTranslation* labelTranslation = nullptr;
   SoTranslation* checkTranslation = nullptr;
   SoTranslation* sliderTranslation = nullptr;
   SoScale* frameScale = nullptr;

@@ -79,7 +79,7 @@ void SoDialogCheckBox::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
     if (!isBuilt3D())
       create3DDialogCheckBox();
     update3DCheckBox();
-    update3DLabel();
+    update3DSideLabel();
   }
   makeFieldSensor(stateSensor, state);
   makeFieldSensor(onStringSensor, onString);
@@ -238,10 +238,7 @@ void SoDialogCheckBox::create3DDialogCheckBox()
   SoGroup* frameGroup = get3DPart("frameSep");
   SoGroup* markGroup = get3DPart("stateSep");
   SoGroup* textGroup = get3DPart("onOffStringSep");
-  labelTranslation = new SoTranslation;
-  labelGroup->insertChild(labelTranslation, 0);
-  labelText = SoControl3D::newFrontText();
-  labelGroup->addChild(labelText);
+  create3DSideLabel(labelGroup, labelGroup, static_cast<SoGroup*>(labelProp.getValue()), labelSwitch.getValue(), true);
   frameScale = new SoScale;
   frameGroup->insertChild(frameScale, 0);
   // The mark and the text lie on the frame, and move with it.
@@ -258,7 +255,6 @@ void SoDialogCheckBox::create3DDialogCheckBox()
   textGroup->insertChild(onOffTranslation, 0);
   onOffText = SoControl3D::newFrontText();
   textGroup->addChild(onOffText);
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
 
   addFinishCallback(&SoDialogCheckBox::finishCB3D);
   change3DLabel();
@@ -288,32 +284,8 @@ void SoDialogCheckBox::update3DCheckBox()
   onOffTranslation->translation.setValue(-halfBody + 20, -(onOffBBox.getMax()[1] + onOffBBox.getMin()[1]) / 2, 0.0f);
 }
 
-void SoDialogCheckBox::update3DLabel()
+void SoDialogCheckBox::update3DBody()
 {
-  if (labelText)
-    place3DSideLabel(static_cast<SoGroup*>(labelProp.getValue()), labelText, labelTranslation, true);
-}
-
-void SoDialogCheckBox::change3DLabel()
-{
-  if (labelText)
-    set3DSideLabelText(labelText);
-  SoDialogComponent::change3DLabel();
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogCheckBox::change3DLabelAlignment()
-{
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogCheckBox::change3DLabelVisibility()
-{
-  if (!isBuilt3D())
-    return;
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   update3DCheckBox();
 }
 

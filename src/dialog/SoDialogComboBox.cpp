@@ -64,7 +64,7 @@ void SoDialogComboBox::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
     if (!isBuilt3D())
       create3DDialogComboBox();
     update3DComboBox();
-    update3DLabel();
+    update3DSideLabel();
   }
   makeFieldSensor(itemsSensor, items);
   makeFieldSensor(selectedItemSensor, selectedItem);
@@ -202,11 +202,7 @@ void SoDialogComboBox::create3DDialogComboBox()
   SoGroup* itemBlock = get3DPart("itemSep");
   SoGroup* itemTextGroup = get3DPart("itemTextSep");
 
-  labelTranslation = new SoTranslation;
-  labelGroup->insertChild(labelTranslation, 0);
-  labelText = SoControl3D::newFrontText();
-  labelGroup->addChild(labelText);
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+  create3DSideLabel(labelGroup, labelGroup, static_cast<SoGroup*>(labelProp.getValue()), labelSwitch.getValue(), true);
 
   frameTranslation = new SoTranslation;
   switchNode->insertChild(frameTranslation, switchNode->findChild(frameGroup));
@@ -272,32 +268,8 @@ void SoDialogComboBox::update3DComboBox()
   undoTransformMatrix(itemSep.getValue(), itemTransform);
 }
 
-void SoDialogComboBox::update3DLabel()
+void SoDialogComboBox::update3DBody()
 {
-  if (labelText)
-    place3DSideLabel(static_cast<SoGroup*>(labelProp.getValue()), labelText, labelTranslation, true);
-}
-
-void SoDialogComboBox::change3DLabel()
-{
-  if (labelText)
-    set3DSideLabelText(labelText);
-  SoDialogComponent::change3DLabel();
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogComboBox::change3DLabelAlignment()
-{
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogComboBox::change3DLabelVisibility()
-{
-  if (!isBuilt3D())
-    return;
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   update3DComboBox();
 }
 

@@ -409,7 +409,13 @@ void SoDialogComponent::changeMinMaxSize()
   defaultMaxSize.setValue(maxWidth.getValue(), maxHeight.getValue());
 }
 
-void SoDialogComponent::change3DLabelVisibility() {}
+void SoDialogComponent::change3DLabelVisibility()
+{
+  if (!sideLabelSwitch || !isBuilt3D())
+    return;
+  setSwitchValue(sideLabelSwitch, labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
+  update3DBody();
+}
 
 void SoDialogComponent::change3DEdgeStyle()
 {
@@ -489,20 +495,49 @@ void SoDialogComponent::get3DComponentSize(SbVec2i32& size, SbVec2i32& offset)
   offset.setValue(static_cast<int32_t>(start + size[0] / 2.0 - w / 2.0), 0);
 }
 
-void SoDialogComponent::set3DSideLabelText(SoText3* text)
+void SoDialogComponent::create3DSideLabel(SoGroup* placeGroup, SoGroup* textGroup, SoGroup* props,
+                                          SoNode* visibility, bool integerHalf)
 {
-  SoControl3D::clearText(text);
-  setStringToText3(text, convertToCString(label.getValue(), nullptr));
+  sideLabelTranslation = new SoTranslation;
+  placeGroup->insertChild(sideLabelTranslation, 0);
+  sideLabelText = SoControl3D::newFrontText();
+  textGroup->addChild(sideLabelText);
+  sideLabelProps = props;
+  sideLabelSwitch = visibility;
+  sideLabelIntegerHalf = integerHalf;
+  setSwitchValue(visibility, labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
 }
 
-void SoDialogComponent::place3DSideLabel(SoGroup* props, SoText3* text, SoTranslation* translation, bool integerHalf)
+void SoDialogComponent::update3DSideLabel()
 {
+  if (!sideLabelText)
+    return;
   if (!isLabelCachedBBox())
-    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(props, text)));
+    setLabelCacheBBox(SoControl3D::finiteBox(measure3DText(sideLabelProps, sideLabelText)));
   const SbBox3f box = getLabelCachedBBox();
   const int32_t x = SoControl3D::sideLabelX(labelSize[0], box.getMax()[0] - box.getMin()[0], labelAlignment.getValue(),
-                                            integerHalf);
-  translation->translation.setValue(x - width.getValue() / 2.0f, -(box.getMax()[1] + box.getMin()[1]) / 2, 0.0f);
+                                            sideLabelIntegerHalf);
+  sideLabelTranslation->translation.setValue(x - width.getValue() / 2.0f, -(box.getMax()[1] + box.getMin()[1]) / 2,
+                                             0.0f);
+}
+
+void SoDialogComponent::update3DBody() {}
+
+void SoDialogComponent::change3DLabel()
+{
+  if (sideLabelText) {
+    SoControl3D::clearText(sideLabelText);
+    setStringToText3(sideLabelText, convertToCString(label.getValue(), nullptr));
+  }
+  SoTopComponent::change3DLabel();
+  if (isBuilt3D())
+    update3DSideLabel();
+}
+
+void SoDialogComponent::change3DLabelAlignment()
+{
+  if (isBuilt3D())
+    update3DSideLabel();
 }
 
 void SoDialogComponent::getBoundingBox(SoGetBoundingBoxAction* action)

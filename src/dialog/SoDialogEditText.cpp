@@ -117,7 +117,7 @@ void SoDialogEditText::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
     if (!isBuilt3D())
       create3DDialogEditText();
     update3DEditText();
-    update3DLabel();
+    update3DSideLabel();
   }
   makeFieldSensor(editableSensor, editable);
   makeFieldSensor(editTextSensor, editText);
@@ -395,15 +395,10 @@ void SoDialogEditText::create3DDialogEditText()
 
   const bool multi = multiLine.getValue() != 0;
   setSwitchValue(frameSwitch.getValue(), 0);
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   setSwitchValue(scrollVSwitch.getValue(), multi ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   setSwitchValue(scrollHSwitch.getValue(), multi && !wrapLine.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
 
-  labelTranslation = new SoTranslation;
-  get3DPart("labelSep")->insertChild(labelTranslation, 0);
-  labelText = new SoText3;
-  labelText->parts = SoText3::FRONT;
-  get3DPart("labelSwitch")->addChild(labelText);
+  create3DSideLabel(get3DPart("labelSep"), get3DPart("labelSwitch"), get3DPart("labelProp"), labelSwitch.getValue(), false);
 
   buttonScale = new SoScale;
   buttonScale->scaleFactor.setValue(kBar, kBar, 1.0f);
@@ -537,6 +532,11 @@ void SoDialogEditText::update3DEditText()
   update3DTextPosition();
 }
 
+void SoDialogEditText::update3DBody()
+{
+  update3DEditText();
+}
+
 void SoDialogEditText::update3DScrollBars()
 {
   const float sh = wrapLine.getValue() ? 0.0f : kBar;
@@ -609,35 +609,6 @@ void SoDialogEditText::update3DTextPosition()
   if (textWidth > iw - 2 * kInset)
     x = -kInset - (iw - 2 * kInset) / 2 - (textWidth - (iw - 2 * kInset));
   textTranslation->translation.setValue(std::trunc(x), -middleOf(textBBox, 1), 0.0f);
-}
-
-void SoDialogEditText::update3DLabel()
-{
-  if (labelText)
-    place3DSideLabel(get3DPart("labelProp"), labelText, labelTranslation, false);
-}
-
-void SoDialogEditText::change3DLabel()
-{
-  if (labelText)
-    set3DSideLabelText(labelText);
-  SoDialogComponent::change3DLabel();
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogEditText::change3DLabelAlignment()
-{
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogEditText::change3DLabelVisibility()
-{
-  if (!isBuilt3D())
-    return;
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
-  update3DEditText();
 }
 
 void SoDialogEditText::change3DEditText()

@@ -72,7 +72,7 @@ void SoDialogPushButton::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2
     if (!isBuilt3D())
       create3DDialogPushButton();
     update3DButton();
-    update3DLabel();
+    update3DSideLabel();
   }
   makeFieldSensor(buttonLabelSensor, buttonLabel);
 }
@@ -200,10 +200,7 @@ void SoDialogPushButton::create3DDialogPushButton()
   SoGroup* labelGroup = get3DPart("labelSwitch");
   SoGroup* frameGroup = get3DPart("frameSep");
   SoGroup* captionGroup = get3DPart("buttonLabelSep");
-  labelTranslation = new SoTranslation;
-  labelGroup->insertChild(labelTranslation, 0);
-  labelText = SoControl3D::newFrontText();
-  labelGroup->addChild(labelText);
+  create3DSideLabel(labelGroup, labelGroup, static_cast<SoGroup*>(labelProp.getValue()), labelSwitch.getValue(), false);
   frameScale = new SoScale;
   frameGroup->insertChild(frameScale, 0);
   frameTranslation = new SoTranslation;
@@ -216,7 +213,6 @@ void SoDialogPushButton::create3DDialogPushButton()
   buttonLabelText = SoControl3D::newFrontText();
   captionGroup->addChild(buttonLabelText);
   setSwitchValue(frameSwitch.getValue(), 0);
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
 
   addStartCallback(&SoDialogPushButton::startCB3D);
   addFinishCallback(&SoDialogPushButton::finishCB3D);
@@ -242,32 +238,8 @@ void SoDialogPushButton::update3DButton()
   undoTransformMatrix(frameSep.getValue(), frameTransform);
 }
 
-void SoDialogPushButton::update3DLabel()
+void SoDialogPushButton::update3DBody()
 {
-  if (labelText)
-    place3DSideLabel(static_cast<SoGroup*>(labelProp.getValue()), labelText, labelTranslation, false);
-}
-
-void SoDialogPushButton::change3DLabel()
-{
-  if (labelText)
-    set3DSideLabelText(labelText);
-  SoDialogComponent::change3DLabel();
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogPushButton::change3DLabelAlignment()
-{
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogPushButton::change3DLabelVisibility()
-{
-  if (!isBuilt3D())
-    return;
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   update3DButton();
 }
 

@@ -93,7 +93,7 @@ void SoDialogSlider::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32&
     if (!isBuilt3D())
       create3DDialogSlider();
     update3DSlider();
-    update3DLabel();
+    update3DSideLabel();
   }
   makeFieldSensor(colorsSensor, colors);
   makeFieldSensor(shadedColorsSensor, shadedColors);
@@ -442,12 +442,8 @@ void SoDialogSlider::create3DDialogSlider()
   setPartAsDefault("editValueFrame", "DialogEditTextEditingFrame", TRUE);
   setPartAsDefault("editTextProp", "DialogTextProperties", TRUE);
   setSwitchValue(edtFrmSwtch.getValue(), 0);
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
 
-  labelTranslation = new SoTranslation;
-  get3DPart("labelSep")->insertChild(labelTranslation, 0);
-  labelText = SoControl3D::newFrontText();
-  get3DPart("labelSwitch")->addChild(labelText);
+  create3DSideLabel(get3DPart("labelSep"), get3DPart("labelSwitch"), get3DPart("labelProp"), labelSwitch.getValue(), true);
 
   SoGroup* check = get3DPart("checkSep");
   auto* checkScale = new SoScale;
@@ -551,32 +547,8 @@ void SoDialogSlider::update3DSlider()
   undoTransformMatrix(edtFrmSep.getValue(), editTransform);
 }
 
-void SoDialogSlider::update3DLabel()
+void SoDialogSlider::update3DBody()
 {
-  if (labelText)
-    place3DSideLabel(get3DPart("labelProp"), labelText, labelTranslation, true);
-}
-
-void SoDialogSlider::change3DLabel()
-{
-  if (labelText)
-    set3DSideLabelText(labelText);
-  SoDialogComponent::change3DLabel();
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogSlider::change3DLabelAlignment()
-{
-  if (isBuilt3D())
-    update3DLabel();
-}
-
-void SoDialogSlider::change3DLabelVisibility()
-{
-  if (!isBuilt3D())
-    return;
-  setSwitchValue(labelSwitch.getValue(), labelVisibility.getValue() ? SO_SWITCH_ALL : SO_SWITCH_NONE);
   update3DSlider();
 }
 
