@@ -282,7 +282,7 @@ int main(int argc, char** argv)
          "Every node type that a dialog file can name, with its fields: the field's\n"
          "type, its default as a dialog file writes it, and for an enumeration its\n"
          "values. A type has the fields of its parent too. The public parts of the\n"
-         "3D form are node fields as well, which a dialog file may set.\n\n"
+         "3D form, which hold the groups of the skin, are node fields as well.\n\n"
          "This file is written by `formwright-reference` from the types that the\n"
          "library registers and the comments of its public headers; do not edit it\n"
          "by hand, run `cmake --build build --target reference` instead.\n\n";
