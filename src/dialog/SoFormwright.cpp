@@ -224,7 +224,8 @@ bool isUnknownFieldBeforeChildren(SoInput* in, SbName& name)
   in->putBack(following.c_str());
   const SbString text = name.getString();
   const bool isKeyword = text == "DEF" || text == "USE" || text == "ROUTE" || text == "PROTO" || text == "EXTERNPROTO";
-  const bool isNodeType = !SoType::fromName(name).isBad() || !SoType::fromName(SbName((SbString("So") + text).getString())).isBad();
+  const bool isNodeType =
+    !SoType::fromName(name).isBad() || !SoType::fromName(SbName((SbString("So") + text).getString())).isBad();
   if (isKeyword || isNodeType || in->findProto(name) || c == '{') {
     in->putBack(name.getString());
     return false;
