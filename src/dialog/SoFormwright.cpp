@@ -50,6 +50,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cctype>
 #include <iterator>
 #include <optional>
 #include <cstring>
@@ -204,6 +205,35 @@ SoFormwright::~SoFormwright()
   delete labelAlignmentSensor;
 }
 
+namespace {
+// In a container the fields end at the first name that is no field, which
+// should start a child. A name that no node type, keyword or prototype has
+// and that no '{' follows is a mistyped field: said so here, it names the
+// field, where the child reader would only complain about the value after it.
+bool isUnknownFieldBeforeChildren(SoInput* in, SbName& name)
+{
+  if (!in->read(name, TRUE))
+    return false;
+  std::string following;
+  char c = 0;
+  while (in->get(c)) {
+    following += c;
+    if (!std::isspace(static_cast<unsigned char>(c)))
+      break;
+  }
+  in->putBack(following.c_str());
+  const SbString text = name.getString();
+  const bool isKeyword = text == "DEF" || text == "USE" || text == "ROUTE" || text == "PROTO" || text == "EXTERNPROTO";
+  const bool isNodeType =
+    !SoType::fromName(name).isBad() || !SoType::fromName(SbName((SbString("So") + text).getString())).isBad();
+  if (isKeyword || isNodeType || in->findProto(name) || c == '{') {
+    in->putBack(name.getString());
+    return false;
+  }
+  return true;
+}
+}
+
 SbBool SoFormwright::readInstance(SoInput* in, unsigned short)
 {
   return readFields(in, TRUE);
@@ -232,6 +262,11 @@ SbBool SoFormwright::readFields(SoInput* in, SbBool errorOnUnknownField)
   SoDB::startNotify();
   SbBool notBuiltIn = FALSE;
   SbBool ok = fields->read(in, this, errorOnUnknownField, notBuiltIn);
+  SbName name;
+  if (ok && !errorOnUnknownField && !in->isBinary() && isUnknownFieldBeforeChildren(in, name)) {
+    SoReadError::post(in, "Unknown field \"%s\" in \"%s\"", name.getString(), getTypeId().getName().getString());
+    ok = FALSE;
+  }
   const SoNodekitCatalog* catalog = getNodekitCatalog();
   for (const NodeField& entry : nodeFields) {
     SoNode* given = entry.field->getValue();
