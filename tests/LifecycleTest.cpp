@@ -190,9 +190,9 @@ TEST(Lifecycle, everyClassRegistersUnderItsFileNameAfterItsParent)
     EXPECT_EQ(node->getTypeId(), type);
     node->unref();
   };
-#define FORMWRIGHT_CHECK(K) check(#K, K::getClassTypeId());
-  SO_FORMWRIGHT_FOR_EACH_CLASS(FORMWRIGHT_CHECK)
-#undef FORMWRIGHT_CHECK
+#define CHECK_REGISTERED(K) check(#K, K::getClassTypeId());
+  SO_FORMWRIGHT_FOR_EACH_CLASS(CHECK_REGISTERED)
+#undef CHECK_REGISTERED
   EXPECT_STREQ(SoFormwright::getClassTypeId().getParent().getName().getString(), "Dragger");
   EXPECT_EQ(SoDialogPushButtonLauncher::getClassTypeId().getParent(), SoDialogPushButton::getClassTypeId());
 }
