@@ -6,10 +6,15 @@ namespace {
 // dialog files have it.
 constexpr int kLongestLine = 100;
 
+// The toolkit's reader takes a backslash as an escape only before a quote,
+// and keeps every other one as it stands; so only quotes are escaped. A
+// backslash that ends a text would escape the closing quote, and no spelling
+// of it can be read back, so it is left out.
 QString quoted(const QString& text)
 {
   QString escaped = text;
-  escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+  while (escaped.endsWith(QLatin1Char('\\')))
+    escaped.chop(1);
   escaped.replace(QLatin1Char('"'), QLatin1String("\\\""));
   return QLatin1Char('"') + escaped + QLatin1Char('"');
 }
