@@ -20,6 +20,16 @@ constexpr double kQtRealMaximum = 99.99;
 const char* const kModifierWords[] = {"Ctrl", "CTRL", "ctrl", "Ctl", "Shift", "SHIFT", "shift",
                                       "Meta", "META", "Alt",  "ALT",  "alt"};
 
+// The standard buttons of a button box, by Designer's names, with the texts
+// Qt shows on them, in the order Qt lays them out: help and resets first,
+// then accepting before rejecting.
+const std::pair<const char*, const char*> kStandardButtons[] = {
+  {"Help", "Help"},         {"RestoreDefaults", "Restore Defaults"}, {"Reset", "Reset"},   {"Ok", "OK"},
+  {"Save", "Save"},         {"SaveAll", "Save All"},                 {"Open", "Open"},     {"Yes", "Yes"},
+  {"YesToAll", "Yes to All"}, {"No", "No"},                          {"NoToAll", "No to All"},
+  {"Abort", "Abort"},       {"Retry", "Retry"},                      {"Ignore", "Ignore"}, {"Apply", "Apply"},
+  {"Discard", "Discard"},   {"Close", "Close"},                      {"Cancel", "Cancel"}};
+
 // "&File" shows as "File"; "&&" is a plain ampersand.
 QString withoutMnemonics(const QString& text)
 {
@@ -197,9 +207,10 @@ void UiFormConverter::fillFromLayout(DialogNode& dialog, const UiElement& conten
 {
   const UiElement* layout = content.child(QStringLiteral("layout"));
   if (!layout) {
-    for (const UiElement* widget : contentWidgets(content))
+    const std::vector<const UiElement*> widgets = contentWidgets(content);
+    for (const UiElement* widget : widgets)
       dialog.children.push_back(convertWidget(*widget));
-    if (!dialog.children.empty())
+    if (!widgets.empty())
       warn(content, QStringLiteral("\"%1\" has no layout: its widgets are stacked in file order").arg(name(content)));
     return;
   }
@@ -207,10 +218,10 @@ void UiFormConverter::fillFromLayout(DialogNode& dialog, const UiElement& conten
   const QString margin = body.takeField(QStringLiteral("margin"));
   if (!margin.isEmpty())
     dialog.setWord(QStringLiteral("margin"), margin);
-  body.takeField(QStringLiteral("auditorID"));
   // The window stacks its children itself, so a vertical layout needs no
   // container of its own.
   if (body.type == QLatin1String("RowDialog")) {
+    body.takeField(QStringLiteral("auditorID"));
     for (const auto& field : body.fields)
       dialog.setWord(field.first, field.second);
     for (DialogNode& child : body.children)
@@ -329,22 +340,23 @@ std::optional<DialogNode> UiFormConverter::convertItem(const UiElement& item, in
 
 std::vector<const UiElement*> UiFormConverter::contentWidgets(const UiElement& widget) const
 {
-  std::vector<const UiElement*> found;
   const UiElement* layout = widget.child(QStringLiteral("layout"));
   if (!layout)
     return widget.children(QStringLiteral("widget"));
-  std::vector<const UiElement*> layouts = {layout};
-  while (!layouts.empty()) {
-    const UiElement* current = layouts.front();
-    layouts.erase(layouts.begin());
-    for (const UiElement* item : current->children(QStringLiteral("item"))) {
-      if (const UiElement* child = item->child(QStringLiteral("widget")))
-        found.push_back(child);
-      if (const UiElement* nested = item->child(QStringLiteral("layout")))
-        layouts.push_back(nested);
-    }
-  }
+  std::vector<const UiElement*> found;
+  addLayoutWidgets(*layout, found);
   return found;
+}
+
+// In reading order, nested layouts included.
+void UiFormConverter::addLayoutWidgets(const UiElement& layout, std::vector<const UiElement*>& found) const
+{
+  for (const UiElement* item : layout.children(QStringLiteral("item"))) {
+    if (const UiElement* child = item->child(QStringLiteral("widget")))
+      found.push_back(child);
+    if (const UiElement* nested = item->child(QStringLiteral("layout")))
+      addLayoutWidgets(*nested, found);
+  }
 }
 
 DialogNode UiFormConverter::convertWidget(const UiElement& widget)
@@ -430,6 +442,8 @@ DialogNode UiFormConverter::convertWidget(const UiElement& widget)
     return start("DialogSeparator", nullptr);
   if (type == QLatin1String("QTabWidget"))
     return convertTabWidget(widget);
+  if (type == QLatin1String("QDialogButtonBox"))
+    return convertButtonBox(widget);
   if ((type == QLatin1String("QWidget") || type == QLatin1String("QFrame")) &&
       (widget.child(QStringLiteral("layout")) || widget.child(QStringLiteral("widget"))))
     return convertPlainWidget(widget, QString());
@@ -512,6 +526,26 @@ DialogNode UiFormConverter::convertTabWidget(const UiElement& tabs)
     node.children.push_back(convertPlainWidget(*page, withoutMnemonics(title ? title->text : QString())));
   }
   return node;
+}
+
+DialogNode UiFormConverter::convertButtonBox(const UiElement& box)
+{
+  const bool vertical = box.propertyText(QStringLiteral("orientation")) == QLatin1String("Qt::Vertical");
+  DialogNode buttons(vertical ? QStringLiteral("RowDialog") : QStringLiteral("ColumnDialog"));
+  buttons.setText(QStringLiteral("auditorID"), name(box));
+  buttons.setNumber(vertical ? QStringLiteral("rowSpacing") : QStringLiteral("columnSpacing"), m_defaultSpacing);
+  const QStringList chosen = box.propertyText(QStringLiteral("standardButtons")).split(QLatin1Char('|'));
+  for (const auto& standard : kStandardButtons) {
+    if (!chosen.contains(QLatin1String("QDialogButtonBox::") + QLatin1String(standard.first)))
+      continue;
+    // Each button is a control of its own, named after the box and its role.
+    DialogNode button(QStringLiteral("DialogPushButton"));
+    button.setText(QStringLiteral("auditorID"), name(box) + QLatin1Char('.') + QLatin1String(standard.first));
+    button.setText(QStringLiteral("buttonLabel"), QLatin1String(standard.second));
+    button.setBool(QStringLiteral("labelVisibility"), false);
+    buttons.children.push_back(std::move(button));
+  }
+  return buttons;
 }
 
 DialogNode UiFormConverter::convertMenuBar(const UiElement& bar)

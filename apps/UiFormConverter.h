@@ -41,6 +41,7 @@ private:
   DialogNode convertWidget(const UiElement& widget);
   DialogNode convertGroupBox(const UiElement& box);
   DialogNode convertTabWidget(const UiElement& tabs);
+  DialogNode convertButtonBox(const UiElement& box);
   DialogNode convertPlainWidget(const UiElement& widget, const QString& label);
 
   DialogNode convertMenuBar(const UiElement& bar);
@@ -50,6 +51,7 @@ private:
 
   QString widgetClass(const UiElement& widget) const;
   std::vector<const UiElement*> contentWidgets(const UiElement& widget) const;
+  void addLayoutWidgets(const UiElement& layout, std::vector<const UiElement*>& found) const;
   int layoutMargin(const UiElement& layout, int fallback);
   void warn(const UiElement& at, const QString& message);
 

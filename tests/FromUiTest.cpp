@@ -6,7 +6,6 @@
 #include "UiFormConverter.h"
 
 #include <SoDialogGroup.h>
-#include <SoMenuBar.h>
 #include <SoMenuPopup.h>
 #include <SoTopLevelDialog.h>
 
@@ -20,7 +19,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -36,9 +34,9 @@ std::string tagged(const char* tag, const char* type, const char* name, const st
 {
   return std::string("<") + tag + " class=\"" + type + "\" name=\"" + name + "\">" + inside + "</" + tag + ">";
 }
-std::string widget(const char* type, const char* name, const std::string& inside = "") { return tagged("widget", type, name, inside); }
-std::string layout(const char* type, const char* name, const std::string& inside) { return tagged("layout", type, name, inside); }
-std::string item(const std::string& inside, const std::string& cell = "") { return "<item " + cell + ">" + inside + "</item>"; }
+std::string widget(const char* type, const char* name, const std::string& in = "") { return tagged("widget", type, name, in); }
+std::string layout(const char* type, const char* name, const std::string& in) { return tagged("layout", type, name, in); }
+std::string item(const std::string& in, const std::string& cell = "") { return "<item " + cell + ">" + in + "</item>"; }
 std::string margins(const char* margin)
 {
   return prop("leftMargin", "number", margin) + prop("topMargin", "number", margin) +
@@ -119,81 +117,76 @@ std::vector<Case> cases()
     action("actionDelete", text("Delete") + prop("shortcut", "string", "Ctrl+Alt+Del")) +
     action("actionKeys", text("Keys") + prop("shortcut", "string", "Meta+Shift+F2"));
 
+  auto cell = [](int row, int column, const char* more = "") {
+    return "row=\"" + std::to_string(row) + "\" column=\"" + std::to_string(column) + "\" " + more;
+  };
+  const std::string tabs = widget(
+    "QTabWidget", "pages",
+    prop("currentIndex", "number", "1") +
+      widget("QWidget", "first",
+             prop("title", "string", "&amp;First", "attribute") +
+               layout("QVBoxLayout", "firstLayout", item(widget("Line", "line")))) +
+      widget("QWidget", "second",
+             prop("title", "string", "Second", "attribute") +
+               layout("QHBoxLayout", "secondLayout", item(widget("QCalendarWidget", "day")))));
+  const std::string grid =
+    layout("QGridLayout", "grid",
+           prop("verticalSpacing", "number", "2") + item(widget("QPushButton", "a"), cell(0, 0)) +
+             item(widget("QPushButton", "b"), cell(0, 1)) + item(widget("QPushButton", "c"), cell(1, 0)));
+  const std::string form = layout(
+    "QFormLayout", "fields",
+    item(widget("QLabel", "nameLabel", text("&amp;Name:") + prop("buddy", "cstring", "name")), cell(0, 0)) +
+      item(widget("QLineEdit", "name"), cell(0, 1)) +
+      item(widget("QLabel", "copiesLabel", text("Copies:")), cell(1, 0)) + item(widget("QSpinBox", "copies"), cell(1, 1)) +
+      item(widget("QCheckBox", "wide", text("Wide")), cell(2, 0, "colspan=\"2\"")));
+
   return {
-    {"LabelButtonAndCheckBoxes",
+    {"Controls",
      item(widget("QLabel", "hint", text("Hello"))) + item(widget("QPushButton", "apply", text("&amp;Apply"))) +
        item(widget("QCheckBox", "binary", text("Binary") + on("checked"))) +
-       item(widget("QCheckBox", "compress", text("Compress"))),
+       item(widget("QComboBox", "units",
+                   prop("currentIndex", "number", "2") + item(text("mm")) + item(text("in")) + item(text("pt")))) +
+       item(widget("QGroupBox", "quality", prop("title", "string", "&amp;Quality") + radios)) +
+       item(widget("QLineEdit", "name", text("a \\&quot;b&quot; \\c"))) +
+       item(widget("QTextEdit", "notes", prop("plainText", "string", "one\ntwo"))) +
+       item(widget("QPlainTextEdit", "log", prop("plainText", "string", "x") + on("readOnly"))) +
+       item(widget("QSpinBox", "copies",
+                   prop("minimum", "number", "1") + prop("maximum", "number", "12") + prop("value", "number", "3"))) +
+       item(widget("QSlider", "zoom")) +
+       item(widget("QDialogButtonBox", "box", prop("standardButtons", "set", "QDialogButtonBox::Cancel|QDialogButtonBox::Ok"))) +
+       item(widget("QDoubleSpinBox", "scale",
+                   prop("minimum", "double", "0.5") + prop("maximum", "double", "2") + prop("value", "double", "1.25"))),
      "", 0,
      {{"form", "TopLevelDialog", {{"label", "Form \"one\" \\ two"}, {"margin", "5"}, {"rowSpacing", "4"}}},
       {"hint", "DialogLabel", {{"label", "Hello"}}},
       {"apply", "DialogPushButton", {{"buttonLabel", "Apply"}}},
       {"binary", "DialogCheckBox", {{"label", "Binary"}, {"state", "TRUE"}}},
-      {"compress", "DialogCheckBox", {{"state", "FALSE"}}}}},
-    {"ComboBoxAndRadioGroup",
-     item(widget("QComboBox", "units",
-                 prop("currentIndex", "number", "2") + item(text("mm")) + item(text("in")) + item(text("pt")))) +
-       item(widget("QGroupBox", "quality", prop("title", "string", "&amp;Quality") + radios)),
-     "", 0,
-     {{"units", "DialogComboBox", {{"items", "mm,in,pt"}, {"selectedItem", "2"}}},
+      {"units", "DialogComboBox", {{"items", "mm,in,pt"}, {"selectedItem", "2"}}},
       {"quality", "DialogRadioButtons", {{"label", "Quality"}, {"items", "Draft,Normal,Best"}, {"selectedItem", "1"}}},
-      {"normal", nullptr, {}}}},
-    {"EditTexts",
-     item(widget("QLineEdit", "name", text("a \\&quot;b&quot; \\c"))) +
-       item(widget("QTextEdit", "notes", prop("plainText", "string", "one\ntwo"))) +
-       item(widget("QPlainTextEdit", "log", prop("plainText", "string", "x") + on("readOnly"))),
-     "", 0,
-     {{"name", "DialogEditText", {{"editText", "a \\\"b\" \\c"}, {"multiLine", "FALSE"}}},
+      {"normal", nullptr, {}},
+      {"name", "DialogEditText", {{"editText", "a \\\"b\" \\c"}, {"multiLine", "FALSE"}}},
       {"notes", "DialogEditText", {{"editText", "one\ntwo"}, {"multiLine", "TRUE"}}},
-      {"log", "DialogEditText", {{"multiLine", "TRUE"}, {"editable", "FALSE"}}}}},
-    {"Sliders",
-     item(widget("QSpinBox", "copies",
-                 prop("minimum", "number", "1") + prop("maximum", "number", "12") + prop("value", "number", "3"))) +
-       item(widget("QSlider", "zoom")) +
-       item(widget("QDoubleSpinBox", "scale",
-                   prop("minimum", "double", "0.5") + prop("maximum", "double", "2") + prop("value", "double", "1.25"))),
-     "", 0,
-     {{"copies", "DialogIntegerSlider", {{"min", "1"}, {"max", "12"}, {"value", "3"}}},
+      {"log", "DialogEditText", {{"multiLine", "TRUE"}, {"editable", "FALSE"}}},
+      {"copies", "DialogIntegerSlider", {{"min", "1"}, {"max", "12"}, {"value", "3"}}},
       {"zoom", "DialogIntegerSlider", {{"min", "0"}, {"max", "99"}, {"value", "0"}}},
-      {"scale", "DialogRealSlider", {{"min", "0.5"}, {"max", "2"}, {"value", "1.25"}}}}},
-    {"SeparatorAndCustom", item(widget("Line", "line")) + item(widget("QCalendarWidget", "day")), "", 1,
-     {{"line", "DialogSeparator", {}}, {"day", "DialogCustom", {}}}},
-    {"TabWidget",
-     item(widget("QTabWidget", "pages",
-                 prop("currentIndex", "number", "1") +
-                   widget("QWidget", "first",
-                          prop("title", "string", "&amp;First", "attribute") +
-                            layout("QVBoxLayout", "firstLayout", item(widget("QLabel", "a", text("A"))))) +
-                   widget("QWidget", "second",
-                          prop("title", "string", "Second", "attribute") +
-                            layout("QHBoxLayout", "secondLayout", item(widget("QPushButton", "b", text("B"))))))),
-     "", 0,
+      {"scale", "DialogRealSlider", {{"min", "0.5"}, {"max", "2"}, {"value", "1.25"}}},
+      {"box", "ColumnDialog", {{"children", "DialogPushButton DialogPushButton"}}},
+      {"box.Ok", "DialogPushButton", {{"buttonLabel", "OK"}}},
+      {"box.Cancel", "DialogPushButton", {{"buttonLabel", "Cancel"}}}}},
+    {"Layouts",
+     item(tabs) +
+       item(layout("QHBoxLayout", "row",
+                   prop("spacing", "number", "7") + margins("3") + item(widget("QLabel", "a")) +
+                     item(layout("QVBoxLayout", "column", item(grid) + item("<spacer name=\"gap\"/>"))))) +
+       item(form),
+     "", 1,
      {{"pages", "TabDialog", {{"selectedPage", "1"}, {"children", "RowDialog ColumnDialog"}}},
-      {"first", "RowDialog", {{"label", "First"}, {"children", "DialogLabel"}}},
-      {"second", "ColumnDialog", {{"label", "Second"}, {"children", "DialogPushButton"}}}}},
-    {"BoxLayouts",
-     item(layout("QHBoxLayout", "row",
-                 prop("spacing", "number", "7") + margins("3") + item(widget("QLabel", "a")) + item(widget("QLabel", "b")))) +
-       item(layout("QVBoxLayout", "column", item(widget("QLabel", "c")) + item("<spacer name=\"gap\"/>"))),
-     "", 0,
-     {{"row", "ColumnDialog", {{"columnSpacing", "7"}, {"margin", "3"}, {"children", "DialogLabel DialogLabel"}}},
-      {"column", "RowDialog", {{"rowSpacing", "4"}, {"margin", "0"}, {"children", "DialogLabel"}}}}},
-    {"GridLayout",
-     item(layout("QGridLayout", "grid",
-                 prop("verticalSpacing", "number", "2") + item(widget("QPushButton", "a"), "row=\"0\" column=\"0\"") +
-                   item(widget("QPushButton", "b"), "row=\"0\" column=\"1\"") +
-                   item(widget("QPushButton", "c"), "row=\"1\" column=\"0\""))),
-     "", 0, {{"grid", "RowDialog", {{"rowSpacing", "2"}, {"children", "ColumnDialog DialogPushButton"}}}}},
-    {"FormLayout",
-     item(layout("QFormLayout", "fields",
-                 item(widget("QLabel", "nameLabel", text("&amp;Name:") + prop("buddy", "cstring", "name")),
-                      "row=\"0\" column=\"0\"") +
-                   item(widget("QLineEdit", "name"), "row=\"0\" column=\"1\"") +
-                   item(widget("QLabel", "copiesLabel", text("Copies:")), "row=\"1\" column=\"0\"") +
-                   item(widget("QSpinBox", "copies"), "row=\"1\" column=\"1\"") +
-                   item(widget("QCheckBox", "wide", text("Wide")), "row=\"2\" column=\"0\" colspan=\"2\""))),
-     "", 0,
-     {{"fields", "RowDialog", {{"children", "DialogEditText DialogIntegerSlider DialogCheckBox"}}},
+      {"first", "RowDialog", {{"label", "First"}, {"children", "DialogSeparator"}}},
+      {"second", "ColumnDialog", {{"label", "Second"}, {"children", "DialogCustom"}}},
+      {"row", "ColumnDialog", {{"columnSpacing", "7"}, {"margin", "3"}, {"children", "DialogLabel RowDialog"}}},
+      {"column", "RowDialog", {{"rowSpacing", "7"}, {"margin", "0"}, {"children", "RowDialog"}}},
+      {"grid", "RowDialog", {{"rowSpacing", "2"}, {"children", "ColumnDialog DialogPushButton"}}},
+      {"fields", "RowDialog", {{"children", "DialogEditText DialogIntegerSlider DialogCheckBox"}}},
       {"name", "DialogEditText", {{"label", "Name:"}, {"labelVisibility", "TRUE"}}},
       {"copies", "DialogIntegerSlider", {{"label", "Copies:"}, {"labelVisibility", "TRUE"}}},
       {"nameLabel", nullptr, {}}}},
