@@ -74,6 +74,17 @@ bool takesLabel(const DialogNode& node)
   return types.contains(node.type);
 }
 
+// Controls side by side; a single one needs no column around it.
+DialogNode sideBySide(std::vector<DialogNode> cells, int columnSpacing)
+{
+  if (cells.size() == 1)
+    return std::move(cells.front());
+  DialogNode columns(QStringLiteral("ColumnDialog"));
+  columns.setNumber(QStringLiteral("columnSpacing"), columnSpacing);
+  columns.children = std::move(cells);
+  return columns;
+}
+
 // A row of a form: its label goes to the field's own label column; a field
 // that has none gets the label as a control beside it.
 DialogNode labelledField(DialogNode field, const QString& label, int columnSpacing)
@@ -91,13 +102,12 @@ DialogNode labelledField(DialogNode field, const QString& label, int columnSpaci
     labelled.children = std::move(field.children);
     return labelled;
   }
-  DialogNode row(QStringLiteral("ColumnDialog"));
-  row.setNumber(QStringLiteral("columnSpacing"), columnSpacing);
   DialogNode text(QStringLiteral("DialogLabel"));
   text.setText(QStringLiteral("label"), label);
-  row.children.push_back(std::move(text));
-  row.children.push_back(std::move(field));
-  return row;
+  std::vector<DialogNode> cells;
+  cells.push_back(std::move(text));
+  cells.push_back(std::move(field));
+  return sideBySide(std::move(cells), columnSpacing);
 }
 
 } // namespace
@@ -107,6 +117,7 @@ bool UiFormConverter::convert(QIODevice& input)
   m_problems.clear();
   m_warnings.clear();
   m_dialog.reset();
+  m_actions.clear();
   m_form = UiElement();
   if (!UiElement::read(input, m_form, m_problems))
     return false;
@@ -285,15 +296,10 @@ void UiFormConverter::addGridRows(DialogNode& rows, const UiElement& layout, int
     if (std::optional<DialogNode> node = convertItem(*item, columnSpacing))
       cells[itemNumber(*item, "row")].emplace(itemNumber(*item, "column"), std::move(*node));
   for (auto& row : cells) {
-    if (row.second.size() == 1) {
-      rows.children.push_back(std::move(row.second.begin()->second));
-      continue;
-    }
-    DialogNode columns(QStringLiteral("ColumnDialog"));
-    columns.setNumber(QStringLiteral("columnSpacing"), columnSpacing);
+    std::vector<DialogNode> columns;
     for (auto& cell : row.second)
-      columns.children.push_back(std::move(cell.second));
-    rows.children.push_back(std::move(columns));
+      columns.push_back(std::move(cell.second));
+    rows.children.push_back(sideBySide(std::move(columns), columnSpacing));
   }
 }
 
@@ -301,7 +307,7 @@ void UiFormConverter::addFormRows(DialogNode& rows, const UiElement& layout, int
 {
   struct FormRow {
     const UiElement* label = nullptr;
-    std::optional<DialogNode> field;
+    std::vector<DialogNode> cells;
   };
   std::map<int, FormRow> formRows;
   for (const UiElement* item : layout.children(QStringLiteral("item"))) {
@@ -311,20 +317,21 @@ void UiFormConverter::addFormRows(DialogNode& rows, const UiElement& layout, int
     if (labelRole && widget && widgetClass(*widget) == QLatin1String("QLabel"))
       row.label = widget;
     else if (std::optional<DialogNode> node = convertItem(*item, columnSpacing))
-      row.field = std::move(node);
+      row.cells.push_back(std::move(*node));
   }
   for (auto& entry : formRows) {
     FormRow& row = entry.second;
-    if (row.label && row.field) {
+    if (row.label && row.cells.size() == 1) {
       QString text = row.label->propertyText(QStringLiteral("text"));
       if (row.label->property(QStringLiteral("buddy")))
         text = withoutMnemonics(text);
-      rows.children.push_back(labelledField(std::move(*row.field), text, columnSpacing));
-    } else if (row.label) {
-      rows.children.push_back(convertWidget(*row.label));
-    } else if (row.field) {
-      rows.children.push_back(std::move(*row.field));
+      rows.children.push_back(labelledField(std::move(row.cells.front()), text, columnSpacing));
+      continue;
     }
+    if (row.label)
+      row.cells.insert(row.cells.begin(), convertWidget(*row.label));
+    if (!row.cells.empty())
+      rows.children.push_back(sideBySide(std::move(row.cells), columnSpacing));
   }
 }
 
