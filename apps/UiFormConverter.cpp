@@ -14,6 +14,7 @@ constexpr int kQtLayoutMargin = 9;
 // What Qt gives a spin box or slider whose limits the form leaves alone.
 constexpr int kQtIntegerMaximum = 99;
 constexpr double kQtRealMaximum = 99.99;
+constexpr int kQtRealDecimals = 2;
 
 // The words that the library reads as modifiers anywhere in an accelerator,
 // even inside a key's name.
@@ -59,6 +60,16 @@ double real(const UiElement& element, const QString& key, double fallback)
   bool ok = false;
   const double value = element.propertyText(key).trimmed().toDouble(&ok);
   return ok ? value : fallback;
+}
+
+// The value box shows what the spin box showed: its prefix, the number as
+// `number` formats it, and its suffix.
+QString valueFormat(const UiElement& spinBox, const QString& number)
+{
+  auto literal = [&](const char* key) {
+    return spinBox.propertyText(QLatin1String(key)).replace(QLatin1Char('%'), QLatin1String("%%"));
+  };
+  return literal("prefix") + number + literal("suffix");
 }
 
 int itemNumber(const UiElement& item, const char* key)
@@ -434,6 +445,9 @@ DialogNode UiFormConverter::convertWidget(const UiElement& widget)
     node.setNumber(QStringLiteral("min"), number(widget, QStringLiteral("minimum"), 0));
     node.setNumber(QStringLiteral("max"), number(widget, QStringLiteral("maximum"), kQtIntegerMaximum));
     node.setNumber(QStringLiteral("value"), number(widget, QStringLiteral("value"), 0));
+    const QString format = valueFormat(widget, QStringLiteral("%d"));
+    if (format != QLatin1String("%d"))
+      node.setText(QStringLiteral("format"), format);
     node.setBool(QStringLiteral("labelVisibility"), false);
     return node;
   }
@@ -442,6 +456,8 @@ DialogNode UiFormConverter::convertWidget(const UiElement& widget)
     node.setReal(QStringLiteral("min"), real(widget, QStringLiteral("minimum"), 0));
     node.setReal(QStringLiteral("max"), real(widget, QStringLiteral("maximum"), kQtRealMaximum));
     node.setReal(QStringLiteral("value"), real(widget, QStringLiteral("value"), 0));
+    const int decimals = number(widget, QStringLiteral("decimals"), kQtRealDecimals);
+    node.setText(QStringLiteral("format"), valueFormat(widget, QStringLiteral("%.%1f").arg(decimals)));
     node.setBool(QStringLiteral("labelVisibility"), false);
     return node;
   }

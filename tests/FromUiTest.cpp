@@ -151,11 +151,13 @@ std::vector<Case> cases()
        item(widget("QTextEdit", "notes", prop("plainText", "string", "one\ntwo"))) +
        item(widget("QPlainTextEdit", "log", prop("plainText", "string", "x") + on("readOnly"))) +
        item(widget("QSpinBox", "copies",
-                   prop("minimum", "number", "1") + prop("maximum", "number", "12") + prop("value", "number", "3"))) +
+                   prop("minimum", "number", "1") + prop("maximum", "number", "12") + prop("value", "number", "3") +
+                     prop("suffix", "string", " %"))) +
        item(widget("QSlider", "zoom")) +
        item(widget("QDialogButtonBox", "box", prop("standardButtons", "set", "QDialogButtonBox::Cancel|QDialogButtonBox::Ok"))) +
        item(widget("QDoubleSpinBox", "scale",
-                   prop("minimum", "double", "0.5") + prop("maximum", "double", "2") + prop("value", "double", "1.25"))),
+                   prop("minimum", "double", "0.5") + prop("maximum", "double", "2") + prop("value", "double", "1.25") +
+                     prop("decimals", "number", "1"))),
      "", 0,
      {{"form", "TopLevelDialog", {{"label", "Form \"one\" \\ two"}, {"margin", "5"}, {"rowSpacing", "4"}}},
       {"hint", "DialogLabel", {{"label", "Hello"}}},
@@ -167,9 +169,9 @@ std::vector<Case> cases()
       {"name", "DialogEditText", {{"editText", "a \\\"b\" \\c"}, {"multiLine", "FALSE"}}},
       {"notes", "DialogEditText", {{"editText", "one\ntwo"}, {"multiLine", "TRUE"}}},
       {"log", "DialogEditText", {{"multiLine", "TRUE"}, {"editable", "FALSE"}}},
-      {"copies", "DialogIntegerSlider", {{"min", "1"}, {"max", "12"}, {"value", "3"}}},
+      {"copies", "DialogIntegerSlider", {{"min", "1"}, {"max", "12"}, {"value", "3"}, {"format", "%d %%"}}},
       {"zoom", "DialogIntegerSlider", {{"min", "0"}, {"max", "99"}, {"value", "0"}}},
-      {"scale", "DialogRealSlider", {{"min", "0.5"}, {"max", "2"}, {"value", "1.25"}}},
+      {"scale", "DialogRealSlider", {{"min", "0.5"}, {"max", "2"}, {"value", "1.25"}, {"format", "%.1f"}}},
       {"box", "ColumnDialog", {{"children", "DialogPushButton DialogPushButton"}}},
       {"box.Ok", "DialogPushButton", {{"buttonLabel", "OK"}}},
       {"box.Cancel", "DialogPushButton", {{"buttonLabel", "Cancel"}}}}},
