@@ -1,6 +1,7 @@
 #include "UiFormConverter.h"
 
 #include <QIODevice>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <map>
@@ -70,6 +71,25 @@ QString valueFormat(const UiElement& spinBox, const QString& number)
     return spinBox.propertyText(QLatin1String(key)).replace(QLatin1Char('%'), QLatin1String("%%"));
   };
   return literal("prefix") + number + literal("suffix");
+}
+
+bool isRichText(const QString& text)
+{
+  return text.startsWith(QLatin1String("<html>")) || text.startsWith(QLatin1String("<!DOCTYPE"));
+}
+
+// Designer writes styled text as a small HTML document. The dialog shows
+// plain text, so the words and paragraphs are kept and the styling dropped.
+QString withoutMarkup(QString html)
+{
+  html.remove(QRegularExpression(QStringLiteral("<head>.*</head>"), QRegularExpression::DotMatchesEverythingOption));
+  html.replace(QRegularExpression(QStringLiteral("</p>\\s*<p[^>]*>|<br ?/?>")), QStringLiteral("\n"));
+  html.remove(QRegularExpression(QStringLiteral("<[^>]*>")));
+  const std::pair<const char*, const char*> entities[] = {
+    {"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&#39;", "'"}, {"&nbsp;", " "}, {"&amp;", "&"}};
+  for (const auto& entity : entities)
+    html.replace(QLatin1String(entity.first), QLatin1String(entity.second));
+  return html.trimmed();
 }
 
 int itemNumber(const UiElement& item, const char* key)
@@ -192,6 +212,15 @@ QString UiFormConverter::widgetClass(const UiElement& widget) const
   for (int step = 0; step < 8 && m_baseClasses.contains(type); ++step)
     type = m_baseClasses.value(type);
   return type;
+}
+
+QString UiFormConverter::shownText(const UiElement& widget, const QString& key)
+{
+  const QString text = widget.propertyText(key);
+  if (!isRichText(text))
+    return text;
+  warn(widget, QStringLiteral("the styling of the text of \"%1\" is dropped; its words are kept").arg(name(widget)));
+  return withoutMarkup(text);
 }
 
 void UiFormConverter::warn(const UiElement& at, const QString& message)
@@ -392,7 +421,9 @@ DialogNode UiFormConverter::convertWidget(const UiElement& widget)
   };
 
   if (type == QLatin1String("QLabel")) {
-    const QString shown = widget.property(QStringLiteral("buddy")) ? withoutMnemonics(text) : text;
+    QString shown = shownText(widget, QStringLiteral("text"));
+    if (widget.property(QStringLiteral("buddy")))
+      shown = withoutMnemonics(shown);
     return start("DialogLabel", &shown);
   }
   if (type == QLatin1String("QPushButton") || type == QLatin1String("QToolButton") ||
@@ -429,9 +460,8 @@ DialogNode UiFormConverter::convertWidget(const UiElement& widget)
       node.setText(QStringLiteral("editText"), text);
     } else {
       node.setBool(QStringLiteral("multiLine"), true);
-      node.setText(QStringLiteral("editText"), widget.propertyText(QStringLiteral("plainText")));
-      if (widget.property(QStringLiteral("html")))
-        warn(widget, QStringLiteral("the rich text of \"%1\" is left out; only plain text is carried").arg(name(widget)));
+      const bool html = widget.property(QStringLiteral("html"));
+      node.setText(QStringLiteral("editText"), shownText(widget, html ? QStringLiteral("html") : QStringLiteral("plainText")));
       if (widget.propertyText(QStringLiteral("lineWrapMode")).endsWith(QLatin1String("NoWrap")))
         node.setBool(QStringLiteral("wrapLine"), false);
     }

@@ -50,6 +50,8 @@ private:
   QString accelerator(const UiElement& action);
 
   QString widgetClass(const UiElement& widget) const;
+  // A text property as the dialog can show it: styled text loses its styling.
+  QString shownText(const UiElement& widget, const QString& key);
   std::vector<const UiElement*> contentWidgets(const UiElement& widget) const;
   void addLayoutWidgets(const UiElement& layout, std::vector<const UiElement*>& found) const;
   int layoutMargin(const UiElement& layout, int fallback);

@@ -142,7 +142,9 @@ std::vector<Case> cases()
 
   return {
     {"Controls",
-     item(widget("QLabel", "hint", text("Hello"))) + item(widget("QPushButton", "apply", text("&amp;Apply"))) +
+     item(widget("QLabel", "hint", text("Hello"))) +
+       item(widget("QLabel", "styled", text("&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;b&gt;Bold&lt;/b&gt; &amp;amp;&lt;/p&gt;"
+                                           "&lt;p&gt;next&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;"))) + item(widget("QPushButton", "apply", text("&amp;Apply"))) +
        item(widget("QCheckBox", "binary", text("Binary") + on("checked"))) +
        item(widget("QComboBox", "units",
                    prop("currentIndex", "number", "2") + item(text("mm")) + item(text("in")) + item(text("pt")))) +
@@ -158,9 +160,10 @@ std::vector<Case> cases()
        item(widget("QDoubleSpinBox", "scale",
                    prop("minimum", "double", "0.5") + prop("maximum", "double", "2") + prop("value", "double", "1.25") +
                      prop("decimals", "number", "1"))),
-     "", 0,
+     "", 1,
      {{"form", "TopLevelDialog", {{"label", "Form \"one\" \\ two"}, {"margin", "5"}, {"rowSpacing", "4"}}},
       {"hint", "DialogLabel", {{"label", "Hello"}}},
+      {"styled", "DialogLabel", {{"label", "Bold &\nnext"}}},
       {"apply", "DialogPushButton", {{"buttonLabel", "Apply"}}},
       {"binary", "DialogCheckBox", {{"label", "Binary"}, {"state", "TRUE"}}},
       {"units", "DialogComboBox", {{"items", "mm,in,pt"}, {"selectedItem", "2"}}},
