@@ -2,14 +2,18 @@
 // order, a removed child leaves no room behind, and a window that may not be
 // resized is held at its negotiated size.
 
+#include "EventLog.h"
 #include "TestSupport.h"
 
 #include <SoDialogLabel.h>
 #include <SoTopLevelDialog.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QFrame>
 #include <QLayout>
+#include <QMenu>
+#include <QMenuBar>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -116,5 +120,41 @@ TEST(BuiltTreeEdit, windowEndsOnceWhateverWidgetsTheApplicationHandedIt)
   delete window;
 }
 
+// However the application ends the widgets it was shown in, a later build
+// gives back menus whose entries reach the auditors, cascades included.
+TEST(BuiltTreeEdit, windowBuiltAgainAfterItsWidgetsWentHasWorkingMenus)
+{
+  enum Loss { hostDeleted, destroyedThenHostDeleted, ownWindowDestroyed };
+  for (Loss loss : {hostDeleted, destroyedThenHostDeleted, ownWindowDestroyed}) {
+    SoSeparator* root = readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPopup { label \"File\"\n"
+                                  "MenuPushButton { auditorID \"open\" } MenuSeparator { }\n"
+                                  "MenuCheckBox { auditorID \"wrap\" } MenuRadioButtons { auditorID \"pick\" items [\"a\", \"b\"] }\n"
+                                  "MenuPopup { MenuPushButton { auditorID \"deep\" } } } } }\n");
+    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    EventLog log;
+    window->addAuditor(&log);
+    auto* host = new QWidget;
+    window->buildDialog(loss == ownWindowDestroyed ? nullptr : host, loss == ownWindowDestroyed ? 0 : 1);
+    if (loss != hostDeleted)
+      window->destroyWidget();
+    if (loss == destroyedThenHostDeleted)
+      EXPECT_TRUE(host->findChildren<QWidget*>().isEmpty()) << "the application's widget is left empty";
+    delete host;
+
+    window->buildDialog(nullptr, 0);
+    auto* bar = window->getBaseWidget()->findChild<QMenuBar*>();
+    ASSERT_TRUE(bar && bar->actions().size() == 1) << loss;
+    const QList<QAction*> entries = bar->actions()[0]->menu()->actions();
+    ASSERT_EQ(entries.size(), 6) << loss;
+    for (QAction* entry : entries)
+      entry->trigger();
+    entries[5]->menu()->actions().value(0)->trigger();
+    EXPECT_EQ(log.entries, (std::vector<std::string>{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1",
+                                                     "push:deep:"}))
+      << loss;
+    window->removeAuditor(&log);
+    window->destroyWidget();
+  }
 }
 
+}
