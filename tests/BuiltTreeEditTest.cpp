@@ -5,6 +5,7 @@
 #include "EventLog.h"
 #include "TestSupport.h"
 
+#include <SoDialogGroup.h>
 #include <SoDialogLabel.h>
 #include <SoTopLevelDialog.h>
 
@@ -13,7 +14,6 @@
 #include <QFrame>
 #include <QLayout>
 #include <QMenu>
-#include <QMenuBar>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -103,6 +103,29 @@ TEST(BuiltTreeEdit, windowThatMayNotBeResizedKeepsItsSize)
   EXPECT_EQ(widget->maximumSize(), QSize(80, 60));
 }
 
+// A margin set on a built container keeps the children clear at once, and the
+// sizes count it twice, beside the frame's 6 of a group and the tabs' (10, 33).
+TEST(BuiltTreeEdit, marginChangedAfterTheBuildShowsAtOnce)
+{
+  const std::string two = fixedLabel("a") + fixedLabel("b");
+  const std::pair<std::string, SbVec2i32> kinds[] = {
+    {two, SbVec2i32(80 + 10, 60 + 10)},
+    {"RowDialog { " + two + " }", SbVec2i32(80 + 6 + 10, 60 + 6 + 10)},
+    {"ColumnDialog { " + two + " }", SbVec2i32(160 + 6 + 10, 30 + 6 + 10)},
+    {"TabDialog { " + fixedLabel("a") + " }", SbVec2i32(80 + 10 + 10, 30 + 33 + 10)},
+  };
+  for (const auto& [children, sizeWithMargin5] : kinds) {
+    SoTopLevelDialog* window = buildWindow("windowResizedByChildren TRUE", children);
+    auto* group = dynamic_cast<SoDialogGroup*>(window->getChild(0));
+    static_cast<SoSFInt32*>((group ? static_cast<SoNode*>(group) : window)->getField("margin"))->setValue(5);
+    EXPECT_EQ(SbVec2i32(window->width.getValue(), window->height.getValue()), sizeWithMargin5) << children;
+    QWidget* label = static_cast<SoDialogComponent*>(group ? group->getChild(0) : window->getChild(0))->getWidget();
+    QApplication::processEvents();
+    EXPECT_TRUE(label->parentWidget()->rect().marginsRemoved(QMargins(5, 5, 5, 5)).contains(label->geometry())) << children;
+    window->destroyWidget();
+  }
+}
+
 // Lets a test end a window the way the last unref of an application would.
 class OwnedWindow : public SoTopLevelDialog {
 public:
@@ -120,37 +143,30 @@ TEST(BuiltTreeEdit, windowEndsOnceWhateverWidgetsTheApplicationHandedIt)
   delete window;
 }
 
-// However the application ends the widgets it was shown in, a later build
-// gives back menus whose entries reach the auditors, cascades included.
+// However the application ends the widgets a dialog was shown in, a later
+// build gives back menus whose entries reach the auditors.
 TEST(BuiltTreeEdit, windowBuiltAgainAfterItsWidgetsWentHasWorkingMenus)
 {
-  enum Loss { hostDeleted, destroyedThenHostDeleted, ownWindowDestroyed };
-  for (Loss loss : {hostDeleted, destroyedThenHostDeleted, ownWindowDestroyed}) {
-    SoSeparator* root = readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPopup { label \"File\"\n"
-                                  "MenuPushButton { auditorID \"open\" } MenuSeparator { }\n"
-                                  "MenuCheckBox { auditorID \"wrap\" } MenuRadioButtons { auditorID \"pick\" items [\"a\", \"b\"] }\n"
-                                  "MenuPopup { MenuPushButton { auditorID \"deep\" } } } } }\n");
-    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+  // 0: the host deleted; 1: destroyWidget, then the host deleted; 2: a window of its own destroyed.
+  for (int loss : {0, 1, 2}) {
+    auto* window = static_cast<SoTopLevelDialog*>(
+      readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPopup { MenuPushButton { auditorID \"open\" }\n"
+                "MenuCheckBox { auditorID \"wrap\" } MenuRadioButtons { auditorID \"pick\" items [\"a\", \"b\"] } } } }")
+        ->getChild(0));
     EventLog log;
     window->addAuditor(&log);
     auto* host = new QWidget;
-    window->buildDialog(loss == ownWindowDestroyed ? nullptr : host, loss == ownWindowDestroyed ? 0 : 1);
-    if (loss != hostDeleted)
+    window->buildDialog(loss == 2 ? nullptr : host, loss == 2 ? 0 : 1);
+    if (loss != 0)
       window->destroyWidget();
-    if (loss == destroyedThenHostDeleted)
-      EXPECT_TRUE(host->findChildren<QWidget*>().isEmpty()) << "the application's widget is left empty";
+    EXPECT_TRUE(loss != 1 || host->findChildren<QWidget*>().isEmpty()) << "the application's widget is left empty";
     delete host;
-
     window->buildDialog(nullptr, 0);
-    auto* bar = window->getBaseWidget()->findChild<QMenuBar*>();
-    ASSERT_TRUE(bar && bar->actions().size() == 1) << loss;
-    const QList<QAction*> entries = bar->actions()[0]->menu()->actions();
-    ASSERT_EQ(entries.size(), 6) << loss;
-    for (QAction* entry : entries)
+    auto* menu = window->getBaseWidget()->findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr) << loss;
+    for (QAction* entry : menu->actions())
       entry->trigger();
-    entries[5]->menu()->actions().value(0)->trigger();
-    EXPECT_EQ(log.entries, (std::vector<std::string>{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1",
-                                                     "push:deep:"}))
+    EXPECT_EQ(log.entries, (std::vector<std::string>{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1"}))
       << loss;
     window->removeAuditor(&log);
     window->destroyWidget();
