@@ -121,7 +121,8 @@ TEST(BuiltTreeEdit, marginChangedAfterTheBuildShowsAtOnce)
     EXPECT_EQ(SbVec2i32(window->width.getValue(), window->height.getValue()), sizeWithMargin5) << children;
     QWidget* label = static_cast<SoDialogComponent*>(group ? group->getChild(0) : window->getChild(0))->getWidget();
     QApplication::processEvents();
-    EXPECT_TRUE(label->parentWidget()->rect().marginsRemoved(QMargins(5, 5, 5, 5)).contains(label->geometry())) << children;
+    EXPECT_TRUE(label->parentWidget()->rect().marginsRemoved(QMargins(5, 5, 5, 5)).contains(label->geometry()))
+      << children;
     window->destroyWidget();
   }
 }
@@ -150,8 +151,9 @@ TEST(BuiltTreeEdit, windowBuiltAgainAfterItsWidgetsWentHasWorkingMenus)
   // 0: the host deleted; 1: destroyWidget, then the host deleted; 2: a window of its own destroyed.
   for (int loss : {0, 1, 2}) {
     auto* window = static_cast<SoTopLevelDialog*>(
-      readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPopup { MenuPushButton { auditorID \"open\" }\n"
-                "MenuCheckBox { auditorID \"wrap\" } MenuRadioButtons { auditorID \"pick\" items [\"a\", \"b\"] } } } }")
+      readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPopup {\n"
+                "MenuPushButton { auditorID \"open\" } MenuCheckBox { auditorID \"wrap\" }\n"
+                "MenuRadioButtons { auditorID \"pick\" items [\"a\", \"b\"] } } } }")
         ->getChild(0));
     EventLog log;
     window->addAuditor(&log);
@@ -166,8 +168,8 @@ TEST(BuiltTreeEdit, windowBuiltAgainAfterItsWidgetsWentHasWorkingMenus)
     ASSERT_NE(menu, nullptr) << loss;
     for (QAction* entry : menu->actions())
       entry->trigger();
-    EXPECT_EQ(log.entries, (std::vector<std::string>{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1"}))
-      << loss;
+    const std::vector<std::string> heard{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1"};
+    EXPECT_EQ(log.entries, heard) << loss;
     window->removeAuditor(&log);
     window->destroyWidget();
   }
