@@ -31,6 +31,8 @@ public:
 
   void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
   void destroyWidget() override;
+  // A margin changed after the build shows at once and is counted anew.
+  void updateFromSensor(SoSensor* sensor) override;
   void resetSize() override;
   void getSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
   // Storing a label or component size passes the negotiation on to the
@@ -101,6 +103,8 @@ protected:
   void update3DStackedChildren(int axis, int32_t spacing);
   void addFrameAllowance(SbVec2i32& size, int sign) const;
   void setFrameMargins();
+  // Keeps the margin clear around the children in the widgets.
+  virtual void changeMargin();
   void computeNewChildrenSize(int axis, SbVec2i32& newSize);
   SoDialogComponent* getComponent(int index) const { return static_cast<SoDialogComponent*>((*children)[index]); }
 
@@ -110,9 +114,12 @@ protected:
   SoChildSizeTable sizeTable;
   // False for a kind of group that makes a frame of its own in its place.
   bool usesGroupFrame = true;
+  SoFieldSensor* marginSensor = nullptr;
 
 private:
   void createGroupWidget();
+  // The frame's Qt limits, from the negotiated sizes.
+  void setFrameLimits();
   // The group's default sizes, worked out once in each build of the scene
   // form: every level above asks for them before the group is built.
   void defaultSizeOfPass(SbVec2i32 defaults[3]);

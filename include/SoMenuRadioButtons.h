@@ -83,6 +83,8 @@ private:
   void changeSelectedItem();
   // The group is made anew at the end of its menu, with new action numbers.
   void changeItems();
+  // Takes the group's actions out of their menu.
+  void deleteBridges();
   void changeAccelerators();
   void create3DRadioButtons(int position);
   void update3DRadioButtons();

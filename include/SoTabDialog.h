@@ -94,6 +94,8 @@ protected:
   void fixSizeWithBorder(SbVec2i32& size, int sign) override;
   void setChildrenComponentSize() override;
   void setChildrenLabelSize() override;
+  // Each page keeps the margin clear around its component.
+  void changeMargin() override;
 
   QPointer<SoDialogQTabDialog> tabWidget;
   // Per page, the frame of its component.

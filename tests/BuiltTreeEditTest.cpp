@@ -2,14 +2,18 @@
 // order, a removed child leaves no room behind, and a window that may not be
 // resized is held at its negotiated size.
 
+#include "EventLog.h"
 #include "TestSupport.h"
 
+#include <SoDialogGroup.h>
 #include <SoDialogLabel.h>
 #include <SoTopLevelDialog.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QFrame>
 #include <QLayout>
+#include <QMenu>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -99,6 +103,30 @@ TEST(BuiltTreeEdit, windowThatMayNotBeResizedKeepsItsSize)
   EXPECT_EQ(widget->maximumSize(), QSize(80, 60));
 }
 
+// A margin set on a built container keeps the children clear at once, and the
+// sizes count it twice, beside the frame's 6 of a group and the tabs' (10, 33).
+TEST(BuiltTreeEdit, marginChangedAfterTheBuildShowsAtOnce)
+{
+  const std::string two = fixedLabel("a") + fixedLabel("b");
+  const std::pair<std::string, SbVec2i32> kinds[] = {
+    {two, SbVec2i32(80 + 10, 60 + 10)},
+    {"RowDialog { " + two + " }", SbVec2i32(80 + 6 + 10, 60 + 6 + 10)},
+    {"ColumnDialog { " + two + " }", SbVec2i32(160 + 6 + 10, 30 + 6 + 10)},
+    {"TabDialog { " + fixedLabel("a") + " }", SbVec2i32(80 + 10 + 10, 30 + 33 + 10)},
+  };
+  for (const auto& [children, sizeWithMargin5] : kinds) {
+    SoTopLevelDialog* window = buildWindow("windowResizedByChildren TRUE", children);
+    auto* group = dynamic_cast<SoDialogGroup*>(window->getChild(0));
+    static_cast<SoSFInt32*>((group ? static_cast<SoNode*>(group) : window)->getField("margin"))->setValue(5);
+    EXPECT_EQ(SbVec2i32(window->width.getValue(), window->height.getValue()), sizeWithMargin5) << children;
+    QWidget* label = static_cast<SoDialogComponent*>(group ? group->getChild(0) : window->getChild(0))->getWidget();
+    QApplication::processEvents();
+    EXPECT_TRUE(label->parentWidget()->rect().marginsRemoved(QMargins(5, 5, 5, 5)).contains(label->geometry()))
+      << children;
+    window->destroyWidget();
+  }
+}
+
 // Lets a test end a window the way the last unref of an application would.
 class OwnedWindow : public SoTopLevelDialog {
 public:
@@ -116,5 +144,35 @@ TEST(BuiltTreeEdit, windowEndsOnceWhateverWidgetsTheApplicationHandedIt)
   delete window;
 }
 
+// However the application ends the widgets a dialog was shown in, a later
+// build gives back menus whose entries reach the auditors.
+TEST(BuiltTreeEdit, windowBuiltAgainAfterItsWidgetsWentHasWorkingMenus)
+{
+  // 0: the host deleted; 1: destroyWidget, then the host deleted; 2: a window of its own destroyed.
+  for (int loss : {0, 1, 2}) {
+    auto* window = static_cast<SoTopLevelDialog*>(
+      readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPopup {\n"
+                "MenuPushButton { auditorID \"open\" } MenuCheckBox { auditorID \"wrap\" }\n"
+                "MenuRadioButtons { auditorID \"pick\" items [\"a\", \"b\"] } } } }")
+        ->getChild(0));
+    EventLog log;
+    window->addAuditor(&log);
+    auto* host = new QWidget;
+    window->buildDialog(loss == 2 ? nullptr : host, loss == 2 ? 0 : 1);
+    if (loss != 0)
+      window->destroyWidget();
+    EXPECT_TRUE(loss != 1 || host->findChildren<QWidget*>().isEmpty()) << "the application's widget is left empty";
+    delete host;
+    window->buildDialog(nullptr, 0);
+    auto* menu = window->getBaseWidget()->findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr) << loss;
+    for (QAction* entry : menu->actions())
+      entry->trigger();
+    const std::vector<std::string> heard{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1"};
+    EXPECT_EQ(log.entries, heard) << loss;
+    window->removeAuditor(&log);
+    window->destroyWidget();
+  }
 }
 
+}

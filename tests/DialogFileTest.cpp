@@ -18,7 +18,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -246,23 +245,38 @@ TEST(DialogFileWriting, writingPartOfAPathStopsAtThePathsChild)
   path->unref();
 }
 
-// Margins kept clear in the widgets: the sizes written after a build read
-// back the same.
-TEST(DialogFileWriting, builtWindowWithMarginsReadsBackAtItsSize)
+// Each kind of container keeps its margin clear of its children, and a dialog
+// built, written and read back comes out at the size it had. The labels are
+// given 80 x 30 and may grow, so that room handed out twice shows.
+TEST(DialogFileWriting, builtContainersKeepTheirMarginAndSizeThroughRoundTrips)
 {
-  SoSeparator* root = readScene(std::string(kHeader) + "TopLevelDialog { margin 5 ColumnDialog { margin 4 edgeStyle "
-                                "SHADOW_IN DialogLabel { label \"Wide label\" } } DialogLabel { } }");
-  std::vector<SbVec2i32> sizes;
-  for (int round = 0; round < 2; ++round, root = readScene(writeToText(root))) {
-    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
-    window->buildDialog(nullptr, 0);
-    window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window->getBaseWidget()));
-    EXPECT_EQ(static_cast<SoDialogComponent*>(window->getChild(0))->getWidget()->pos(), QPoint(5, 5));
-    sizes.push_back(SbVec2i32(window->width.getValue(), window->height.getValue()));
-    window->hide();
+  const std::string one = "DialogLabel { label \"a\" width 80 height 30 } ", two = one + one;
+  const std::pair<std::string, SbVec2i32> kinds[] = {
+    // The margins, the frame's 6 or the tabs' (10, 33), and the labels.
+    {"margin 4 " + two, SbVec2i32(8 + 80, 8 + 60)},
+    {"RowDialog { margin 4 " + two + "}", SbVec2i32(8 + 6 + 80, 8 + 6 + 60)},
+    {"RowDialog { margin 4 edgeStyle SHADOW_IN " + two + "}", SbVec2i32(8 + 6 + 80, 8 + 6 + 60)},
+    {"ColumnDialog { margin 4 " + two + "}", SbVec2i32(8 + 6 + 160, 8 + 6 + 30)},
+    {"ColumnDialog { margin 4 edgeStyle SHADOW_OUT " + two + "}", SbVec2i32(8 + 6 + 160, 8 + 6 + 30)},
+    {"TabDialog { margin 4 " + one + "}", SbVec2i32(8 + 10 + 80, 8 + 33 + 30)},
+  };
+  for (const auto& [children, size] : kinds) {
+    std::string text = std::string(kHeader) + "TopLevelDialog { " + children + "}";
+    for (int round = 0; round < 3; ++round) {
+      SoSeparator* root = readScene(text);
+      auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+      window->buildDialog(nullptr, 0);
+      window->show();
+      ASSERT_TRUE(QTest::qWaitForWindowExposed(window->getBaseWidget()));
+      EXPECT_EQ(SbVec2i32(window->width.getValue(), window->height.getValue()), size) << children << round;
+      auto* group = dynamic_cast<SoDialogGroup*>(window->getChild(0));
+      QWidget* label = static_cast<SoDialogComponent*>(group ? group->getChild(0) : window->getChild(0))->getWidget();
+      EXPECT_TRUE(label->parentWidget()->rect().marginsRemoved(QMargins(4, 4, 4, 4)).contains(label->geometry()))
+        << children;
+      text = writeToText(root);
+      window->hide();
+    }
   }
-  EXPECT_EQ(sizes[0], sizes[1]);
 }
 
 }

@@ -365,13 +365,13 @@ TEST(WindowLayout, rowsAndColumnsBuildTheirFramesLayoutsAndEnabledState)
   EXPECT_EQ(row->componentLayout->parentWidget(), row->getWidget());
   EXPECT_EQ(row->getWidget()->parentWidget(), window->getBaseWidget());
   EXPECT_EQ(row->componentLayout->spacing(), 7);
-  EXPECT_EQ(row->componentLayout->contentsMargins(), QMargins(3, 3, 3, 3));
+  EXPECT_EQ(row->getWidget()->contentsMargins() + row->componentLayout->contentsMargins(), QMargins(3, 3, 3, 3));
   EXPECT_NE(qobject_cast<QHBoxLayout*>(column->componentLayout), nullptr);
-  EXPECT_EQ(column->componentLayout->contentsMargins(), QMargins(0, 0, 0, 0));
+  EXPECT_EQ(column->getWidget()->contentsMargins() + column->componentLayout->contentsMargins(), QMargins(3, 3, 3, 3));
   column->columnSpacing = 9;
   EXPECT_EQ(column->componentLayout->spacing(), 9);
   row->edgeStyle = SoDialogComponent::NONE;
-  EXPECT_EQ(row->componentLayout->contentsMargins(), QMargins(0, 0, 0, 0));
+  EXPECT_EQ(row->getWidget()->contentsMargins() + row->componentLayout->contentsMargins(), QMargins(3, 3, 3, 3));
 
   // The group's enabled state goes to every child, whatever the child's own.
   row->enable = FALSE;

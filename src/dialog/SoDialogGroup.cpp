@@ -18,6 +18,8 @@
 #include <QFrame>
 #include <QSpacerItem>
 
+#include <algorithm>
+
 SO_FORMWRIGHT_SOURCE(SoDialogGroup, SoDialogComponent, "DialogGroup")
 SO_FORMWRIGHT_CHILD_OPERATIONS(SoDialogGroup, SoDialogComponent)
 
@@ -42,6 +44,7 @@ SoDialogGroup::~SoDialogGroup()
     if (SoDialogComponent* child = getComponent(i))
       child->destroyWidget();
   delete defaultAuditor;
+  delete marginSensor;
 }
 
 void SoDialogGroup::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
@@ -51,6 +54,25 @@ void SoDialogGroup::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& 
     defaultAuditor = new SoDialogGroupAuditor;
   if (mode != 0 && usesGroupFrame && !existWidget(groupWidget))
     createGroupWidget();
+  else if (mode != 0 && groupWidget)
+    setFrameLimits();
+  makeFieldSensor(marginSensor, margin);
+}
+
+void SoDialogGroup::updateFromSensor(SoSensor* sensor)
+{
+  if (sensor != marginSensor) {
+    SoDialogComponent::updateFromSensor(sensor);
+    return;
+  }
+  if (buildMode)
+    changeMargin();
+  updateAfterSceneGraphChange();
+}
+
+void SoDialogGroup::changeMargin()
+{
+  setFrameMargins();
 }
 
 void SoDialogGroup::createGroupWidget()
@@ -58,12 +80,17 @@ void SoDialogGroup::createGroupWidget()
   groupWidget = new QFrame(componentWidget);
   componentWidget = groupWidget;
   groupWidget->setObjectName("FWTSoDialogGroupGroupWidget");
+  setFrameLimits();
+  componentLayout->addWidget(componentWidget, 0);
+  componentLayout->addItem(layoutSpacer);
+}
+
+void SoDialogGroup::setFrameLimits()
+{
   groupWidget->setMinimumSize(SoSizeRules::toQtSize(minWidth.getValue()), SoSizeRules::toQtSize(minHeight.getValue()));
   groupWidget->setMaximumWidth(SoSizeRules::toQtSize(fixedWidth.getValue() ? width.getValue() : maxWidth.getValue()));
   groupWidget->setMaximumHeight(
     SoSizeRules::toQtSize(fixedHeight.getValue() ? height.getValue() : maxHeight.getValue()));
-  componentLayout->addWidget(componentWidget, 0);
-  componentLayout->addItem(layoutSpacer);
 }
 
 void SoDialogGroup::destroyWidget()
@@ -232,8 +259,10 @@ void SoDialogGroup::buildStacked(QWidget* parent, SbVec2i32& useSize, SbVec2i32&
   bool firstSceneBuild = false;
   if (mode != 0) {
     firstWidgetBuild = componentWidget == nullptr;
-    if (!existWidget(componentWidget)) {
-      SoDialogGroup::buildWidget(parent, useSize, size, mode);
+    const bool makesFrame = !existWidget(componentWidget);
+    // A rebuild negotiates the group's own sizes anew, for its frame too.
+    SoDialogGroup::buildWidget(parent, useSize, size, mode);
+    if (makesFrame) {
       // From now on the children go into the frame's own layout; the outer
       // one stays in Qt's tree.
       componentLayout = makeLayout(componentWidget);
@@ -280,8 +309,13 @@ void SoDialogGroup::addFrameAllowance(SbVec2i32& size, int sign) const
 
 void SoDialogGroup::setFrameMargins()
 {
-  // The frame's border, then the group's own margin that the sizes count.
-  const int inset = (edgeStyle.getValue() != NONE ? 3 : 0) + SoSizeRules::usable(margin);
+  if (!componentLayout || !groupWidget)
+    return;
+  // The sizes count 3 pixels of frame on each side whatever the edge, and the
+  // group's margin inside it. Qt lays the children out inside the drawn
+  // edge already, so that edge is taken off; children given more room than
+  // the sizes count would write a larger size at each save.
+  const int inset = std::max(0, 3 + SoSizeRules::usable(margin) - groupWidget->frameWidth());
   componentLayout->setContentsMargins(inset, inset, inset, inset);
 }
 

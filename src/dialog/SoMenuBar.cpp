@@ -195,6 +195,9 @@ void SoMenuBar::destroyWidget()
 {
   for (int i = 0; i < numChildren; ++i)
     childList().at(i)->destroyWidget();
+  // The menus go with the bar; the entries make their actions anew when the
+  // bar is built again.
+  delete menuBar.data();
   SoFormwright::destroyWidget();
 }
 

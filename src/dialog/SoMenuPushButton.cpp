@@ -56,6 +56,10 @@ void SoMenuPushButton::buildMenu(void* holder, int is2D, int position)
 {
   const bool first3D = !is2D && !isBuilt3D();
   SoMenuItem::buildMenu(holder, is2D, position);
+  if (is2D && menuItem && !menuItem->standsIn(holder)) {
+    delete menuItem;
+    menuItem = nullptr;
+  }
   if (is2D && !menuItem)
     insertMenuItem(position);
   if (!is2D) {

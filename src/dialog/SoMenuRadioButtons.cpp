@@ -72,6 +72,8 @@ void SoMenuRadioButtons::buildMenu(void* holder, int is2D, int position)
 {
   const bool first3D = !is2D && !isBuilt3D();
   SoMenuItem::buildMenu(holder, is2D, position);
+  if (is2D && menuItems && numItems != 0 && !menuItems[0]->standsIn(holder))
+    deleteBridges();
   if (is2D && !menuItems)
     insertMenuItem(position);
   if (!is2D) {
@@ -152,11 +154,16 @@ void SoMenuRadioButtons::changeItems()
   if (!menuItems)
     return;
   const int position = numItems != 0 ? menuItems[0]->getPosition() : 0;
+  deleteBridges();
+  insertMenuItem(position);
+}
+
+void SoMenuRadioButtons::deleteBridges()
+{
   for (int i = 0; i < numItems; ++i)
     delete menuItems[i];
   delete[] menuItems;
   menuItems = nullptr;
-  insertMenuItem(position);
 }
 
 // Runs for a group of the scene form too, which has no actions.

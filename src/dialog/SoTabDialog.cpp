@@ -155,12 +155,21 @@ void SoTabDialog::createTabPageWidget(int page)
 {
   SoDialogComponent* child = getComponent(page);
   QWidget* pageWidget = tabWidget->insertPage(page, SoControlWidgets::toWidgetText(child->label.getValue()));
+  changeMargin();
   SbVec2i32 useSize(0, 0), size(0, 0);
   child->buildWidget(pageWidget, useSize, size, 1);
   childrenWidgets.insert(child->getWidget(), page);
   // Once every page stands, the selected one is shown.
   if (childrenWidgets.getLength() == numChildren)
     changeSelectedPage();
+}
+
+void SoTabDialog::changeMargin()
+{
+  const int inset = SoSizeRules::usable(margin);
+  for (int i = 0; isBuilt2D() && i < numChildren; ++i)
+    if (QLayout* layout = tabWidget->getLayout(i))
+      layout->setContentsMargins(inset, inset, inset, inset);
 }
 
 void SoTabDialog::updatePages()

@@ -256,9 +256,9 @@ void SoTopLevelDialog::updateFromSensor(SoSensor* sensor)
   if (sensor == resizableSensor || sensor == modalFrameSensor) {
     // Counted at the next negotiation; nothing to change now.
   } else if (sensor == marginSensor) {
-    // The sizes follow at the next negotiation.
     if (existWidget(baseWidget) && dialogLayout)
       keepMarginClear(dialogLayout, margin);
+    updateAfterSceneGraphChange();
   } else if (sensor == independentMinimizedPositionSensor) {
     if (independentMinimizedPosition.getValue()) {
       position3D.disconnect();

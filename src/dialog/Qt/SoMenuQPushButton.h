@@ -29,6 +29,9 @@ public:
   // and the entry goes with the menu, at once if the menu has gone already.
   // The entry may be deleted when this returns.
   void forgetNode();
+  // Whether the action stands in `menu`: not so once the menu it was put in
+  // has gone, and a menu built anew needs an entry of its own.
+  bool standsIn(const void* menu) const { return m_parentMenu.data() == menu; }
 
 public Q_SLOTS:
   void menuEvent();
