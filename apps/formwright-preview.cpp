@@ -5,15 +5,25 @@
 // With --3d the dialog is built as geometry and stands in a 3D scene, where
 // --click works it before the scene is shown or drawn.
 //
-//   formwright-preview [FILE] [--id AUDITOR_ID] [--3d] [--click X,Y]... [--screenshot PNG] [--list]
+// With --watch it reads the file again at each save and shows the new dialog
+// in place of the old.
+//
+//   formwright-preview [FILE] [--id AUDITOR_ID] [--3d] [--click X,Y]... [--screenshot PNG] [--list] [--watch]
 
 #include "PreviewAuditor.h"
 #include "PreviewTabAuditor.h"
+#include "PreviewWatcher.h"
 #include "ShowcaseDialog.h"
 
+#include <SoDialogCheckBoxLauncher.h>
 #include <SoDialogComponent.h>
 #include <SoDialogGroup.h>
+#include <SoDialogPushButtonLauncher.h>
 #include <SoFormwright.h>
+#include <SoMenuBar.h>
+#include <SoMenuCheckBoxLauncher.h>
+#include <SoMenuPopup.h>
+#include <SoMenuPushButtonLauncher.h>
 #include <SoMessageDialog.h>
 #include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
@@ -42,6 +52,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace {
 
@@ -78,21 +91,17 @@ void quietOffScreenNotices(QtMsgType type, const QMessageLogContext& context, co
   std::fprintf(stderr, "%s\n", qFormatLogMessage(type, context, message).toLocal8Bit().constData());
 }
 
-// Without a skin directory of the user's own, the preview takes the default
-// skin installed beside it, or the one in the source tree it was built from,
-// rather than warn that it falls back on the built-in look.
+// Run from where it was built, with no skin directory of the user's own,
+// the preview takes the skins of the source tree it was built from, as
+// nothing is installed yet. Installed, it leaves the search to the library,
+// which finds the skins installed with it.
 void findSkins()
 {
   if (!qEnvironmentVariableIsEmpty("SCENICHOME") || !qEnvironmentVariableIsEmpty("FORMWRIGHT_SKINS_DIR"))
     return;
-  const QStringList candidates{QCoreApplication::applicationDirPath() + "/../data/Formwright/skins",
-                               FORMWRIGHT_SOURCE_SKINS};
-  for (const QString& candidate : candidates) {
-    if (QFileInfo(candidate + "/default").isDir()) {
-      SoFormwright::setSkinsDirectories(SbString(QFileInfo(candidate).canonicalFilePath().toLocal8Bit().constData()));
-      return;
-    }
-  }
+  if (QFileInfo(QCoreApplication::applicationDirPath()).canonicalFilePath() ==
+      QFileInfo(FORMWRIGHT_BUILD_DIRECTORY).canonicalFilePath())
+    SoFormwright::setSkinsDirectories(FORMWRIGHT_SOURCE_SKINS);
 }
 
 int fail(const QString& message)
@@ -101,16 +110,26 @@ int fail(const QString& message)
   return 1;
 }
 
-// The interface node at the top of the built-in dialog, found as a dialog
-// file's would be.
-SoFormwright* loadShowcase(const SbString& auditorId)
+// The tree of a dialog file, or of the built-in dialog, read afresh at each
+// call: the library's own loader reads a file once for the life of the
+// process, which would never show an edit. Null if nothing could be read.
+SoSeparator* readDialogs(const QString& file)
 {
   SoInput input;
-  input.setBuffer(kShowcaseDialog, std::strlen(kShowcaseDialog));
-  SoSeparator* root = SoDB::readAll(&input);
-  if (!root)
+  if (file.isEmpty())
+    input.setBuffer(kShowcaseDialog, std::strlen(kShowcaseDialog));
+  else if (!input.openFile(file.toLocal8Bit().constData()))
     return nullptr;
-  root->ref(); // kept for the life of the program
+  SoSeparator* root = SoDB::readAll(&input);
+  if (root)
+    root->ref();
+  return root;
+}
+
+// The interface node at the top of a file's tree with the given auditorID,
+// or the first one if none is given.
+SoFormwright* topNode(SoSeparator* root, const SbString& auditorId)
+{
   for (int i = 0; i < root->getNumChildren(); ++i) {
     SoNode* child = root->getChild(i);
     if (child->isOfType(SoFormwright::getClassTypeId()) &&
@@ -120,43 +139,72 @@ SoFormwright* loadShowcase(const SbString& auditorId)
   return nullptr;
 }
 
-// The children of a window or group, for walking the tree.
-int childCount(SoFormwright* node)
+template <class Container>
+bool collectChildren(SoFormwright* node, std::vector<SoFormwright*>& children)
 {
-  if (node->isOfType(SoTopLevelDialog::getClassTypeId()))
-    return static_cast<SoTopLevelDialog*>(node)->getNumChildren();
-  if (node->isOfType(SoDialogGroup::getClassTypeId()))
-    return static_cast<SoDialogGroup*>(node)->getNumChildren();
-  return 0;
+  if (!node->isOfType(Container::getClassTypeId()))
+    return false;
+  const auto* container = static_cast<Container*>(node);
+  for (int i = 0; i < container->getNumChildren(); ++i)
+    children.push_back(static_cast<SoFormwright*>(container->getChild(i)));
+  return true;
 }
 
-SoFormwright* childAt(SoFormwright* node, int index)
+// The interface nodes directly below a node, as the file nests them: the
+// components and menu bar of a window, the components of a group, the menus
+// of a bar, the entries of a menu and the dialogs that a launcher opens.
+std::vector<SoFormwright*> childrenOf(SoFormwright* node)
 {
-  SoNode* child = node->isOfType(SoTopLevelDialog::getClassTypeId())
-                    ? static_cast<SoTopLevelDialog*>(node)->getChild(index)
-                    : static_cast<SoDialogGroup*>(node)->getChild(index);
-  return static_cast<SoFormwright*>(child);
+  std::vector<SoFormwright*> children;
+  collectChildren<SoTopLevelDialog>(node, children) || collectChildren<SoDialogGroup>(node, children) ||
+    collectChildren<SoMenuBar>(node, children) || collectChildren<SoMenuPopup>(node, children) ||
+    collectChildren<SoDialogPushButtonLauncher>(node, children) ||
+    collectChildren<SoDialogCheckBoxLauncher>(node, children) ||
+    collectChildren<SoMenuPushButtonLauncher>(node, children) ||
+    collectChildren<SoMenuCheckBoxLauncher>(node, children);
+  return children;
 }
 
 void printTree(SoFormwright* node, int depth)
 {
   std::printf("%*s%s \"%s\"\n", depth * 2, "", node->getTypeId().getName().getString(),
               node->auditorID.getValue().getString());
-  for (int i = 0; i < childCount(node); ++i)
-    printTree(childAt(node, i), depth + 1);
+  for (SoFormwright* child : childrenOf(node))
+    printTree(child, depth + 1);
 }
 
 // Page changes reach only a tab dialog's own auditors; and a tab dialog
 // with auditors of its own no longer hands the actions in its pages on to
-// the window's, so it gets the general one as well.
+// the window's, so it gets the general one as well. The dialogs that
+// launchers open are left alone, as their controls are not printed.
 void listenToPages(SoFormwright* node, PreviewTabAuditor* pages, PreviewAuditor* actions)
 {
   if (node->isOfType(SoTabDialog::getClassTypeId())) {
     static_cast<SoTabDialog*>(node)->addAuditor(pages);
     static_cast<SoTabDialog*>(node)->addAuditor(actions);
   }
-  for (int i = 0; i < childCount(node); ++i)
-    listenToPages(childAt(node, i), pages, actions);
+  if (node->isOfType(SoTopLevelDialog::getClassTypeId()) || node->isOfType(SoDialogGroup::getClassTypeId()))
+    for (SoFormwright* child : childrenOf(node))
+      listenToPages(child, pages, actions);
+}
+
+// The window that shows a node, referenced: the node's own if it is a
+// dialog, one made for it if it is a component on its own; null for a node
+// that no window can show.
+SoTopLevelDialog* windowFor(SoFormwright* node)
+{
+  SoTopLevelDialog* dialog = nullptr;
+  if (node->isOfType(SoTopLevelDialog::getClassTypeId())) {
+    dialog = static_cast<SoTopLevelDialog*>(node);
+  } else if (node->isOfType(SoDialogComponent::getClassTypeId())) {
+    dialog = new SoTopLevelDialog;
+    dialog->label = node->auditorID.getValue();
+    dialog->addChild(static_cast<SoDialogComponent*>(node));
+  } else {
+    return nullptr;
+  }
+  dialog->ref();
+  return dialog;
 }
 
 // The box blocks until it is closed. To render it, it is grabbed as soon as
@@ -233,20 +281,64 @@ void clickAt(Formwright::SoQtSceneViewer* viewer, const QPoint& pixel)
   viewer->processEvent(&release);
 }
 
+// A dialog as read from its file, with what keeps it alive.
+struct ReadDialog {
+  SoSeparator* root = nullptr;
+  SoTopLevelDialog* dialog = nullptr;
+
+  void release()
+  {
+    dialog->unref();
+    root->unref();
+  }
+};
+
+// Reads the file again and builds its dialog, heard by the same auditors;
+// a file that does not read, or no longer holds the dialog, leaves nothing
+// built and says why.
+bool rereadDialog(const QString& file, const SbString& auditorId, const std::function<void(SoTopLevelDialog*)>& build,
+                  ReadDialog& fresh)
+{
+  const QString stays = "; the dialog shown stays as it was";
+  fresh.root = readDialogs(file);
+  if (!fresh.root) {
+    fail(QString("no dialog could be read from %1%2").arg(file, stays));
+    return false;
+  }
+  SoFormwright* node = topNode(fresh.root, auditorId);
+  fresh.dialog = node ? windowFor(node) : nullptr;
+  if (!fresh.dialog) {
+    fresh.root->unref();
+    fail(QString("%1 holds no dialog to show any more%2").arg(file, stays));
+    return false;
+  }
+  build(fresh.dialog);
+  return true;
+}
+
+void reportReload(const QString& file)
+{
+  std::printf("reloaded %s\n", file.toLocal8Bit().constData());
+  std::fflush(stdout);
+}
+
 int run(const QCommandLineParser& options)
 {
   const QStringList files = options.positionalArguments();
+  const QString file = files.isEmpty() ? QString() : files.first();
+  const QString source = file.isEmpty() ? QString("the built-in dialog") : file;
   const SbString auditorId(options.value("id").toUtf8().constData());
-  SoFormwright* node = nullptr;
-  QString source = "the built-in dialog";
-  if (files.isEmpty()) {
-    node = loadShowcase(auditorId);
-  } else {
-    source = files.first();
-    if (!QFileInfo(source).isReadable())
-      return fail(QString("cannot read %1").arg(source));
-    node = SoFormwright::loadFromFile(SbString(source.toLocal8Bit().constData()), auditorId);
-  }
+  const bool watch = options.isSet("watch");
+  if (watch && file.isEmpty())
+    return fail("--watch needs a dialog file");
+  if (watch && options.isSet("screenshot"))
+    return fail("--watch shows the dialog and keeps it up to date; it does not go with --screenshot");
+  if (!file.isEmpty() && !QFileInfo(file).isReadable())
+    return fail(QString("cannot read %1").arg(file));
+  // Kept for the life of the program, or until a reload replaces it.
+  ReadDialog shown;
+  shown.root = readDialogs(file);
+  SoFormwright* node = shown.root ? topNode(shown.root, auditorId) : nullptr;
   if (!node) {
     if (auditorId.getLength() > 0)
       return fail(QString("no dialog with auditorID \"%1\" in %2").arg(options.value("id"), source));
@@ -254,7 +346,12 @@ int run(const QCommandLineParser& options)
   }
 
   if (options.isSet("list")) {
-    printTree(node, 0);
+    // Without an identifier, every dialog and message of the file.
+    for (int i = 0; i < shown.root->getNumChildren(); ++i) {
+      SoNode* child = shown.root->getChild(i);
+      if (child->isOfType(SoFormwright::getClassTypeId()) && (auditorId.getLength() == 0 || child == node))
+        printTree(static_cast<SoFormwright*>(child), 0);
+    }
     return 0;
   }
 
@@ -274,33 +371,32 @@ int run(const QCommandLineParser& options)
     return fail("--click works on a dialog in the 3D form only, with --3d");
   QString screenshot = options.value("screenshot");
   // Off screen the clicks alone, for the lines they print, are worth a run
-  // that draws nothing: no OpenGL context is needed for them.
-  const bool clicksOnly = !clicks.isEmpty() && screenshot.isEmpty() && drawsOffScreen();
-  if (screenshot.isEmpty() && drawsOffScreen() && !clicksOnly)
+  // that draws nothing: no OpenGL context is needed for them. A watched file
+  // is shown off screen too, for the lines of its reloads.
+  const bool clicksOnly = !clicks.isEmpty() && screenshot.isEmpty() && drawsOffScreen() && !watch;
+  if (screenshot.isEmpty() && drawsOffScreen() && !clicksOnly && !watch)
     screenshot = kDefaultScreenshot;
-  if (node->isOfType(SoMessageDialog::getClassTypeId()))
+  if (node->isOfType(SoMessageDialog::getClassTypeId())) {
+    if (watch)
+      return fail("--watch shows dialogs, not message boxes");
     return showMessage(static_cast<SoMessageDialog*>(node), screenshot);
-
-  SoTopLevelDialog* dialog = nullptr;
-  if (node->isOfType(SoTopLevelDialog::getClassTypeId())) {
-    dialog = static_cast<SoTopLevelDialog*>(node);
-  } else if (node->isOfType(SoDialogComponent::getClassTypeId())) {
-    // A component on its own is shown in a window made for it.
-    dialog = new SoTopLevelDialog;
-    dialog->ref();
-    dialog->label = node->auditorID.getValue();
-    dialog->addChild(static_cast<SoDialogComponent*>(node));
-  } else {
-    return fail(QString("the node found in %1 is not a dialog, a component or a message").arg(source));
   }
 
+  shown.dialog = windowFor(node);
+  if (!shown.dialog)
+    return fail(QString("the node found in %1 is not a dialog, a component or a message").arg(source));
   PreviewAuditor auditor(stdout);
   PreviewTabAuditor pages(stdout);
-  dialog->addAuditor(&auditor);
-  listenToPages(dialog, &pages, &auditor);
   if (inScene)
     SoFormMode::setSceneForm(true);
-  dialog->buildDialog(nullptr, 0);
+  const auto build = [&](SoTopLevelDialog* dialog) {
+    dialog->addAuditor(&auditor);
+    listenToPages(dialog, &pages, &auditor);
+    dialog->buildDialog(nullptr, 0);
+  };
+  build(shown.dialog);
+  SoTopLevelDialog* dialog = shown.dialog;
+  std::unique_ptr<PreviewWatcher> watcher;
 
   if (inScene) {
     auto* scene = new SoSeparator;
@@ -319,9 +415,24 @@ int run(const QCommandLineParser& options)
     if (clicksOnly)
       return 0;
     if (live) {
-      // The keys typed into the window go to the controls in the scene.
+      if (watch)
+        // The viewer stays where it is; only the plate in it changes.
+        watcher = std::make_unique<PreviewWatcher>(file, [&] {
+          ReadDialog fresh;
+          if (!rereadDialog(file, auditorId, build, fresh))
+            return;
+          scene->replaceChild(shown.dialog, fresh.dialog);
+          showPlate(viewer, fresh.dialog, largest);
+          shown.release();
+          shown = fresh;
+          reportReload(file);
+        });
+      // The keys typed into the window go to the controls in the scene. Off
+      // screen, where Qt cannot hand an OpenGL widget's picture on and no
+      // one would see it, a watched scene is only rebuilt.
       viewer->setFocus();
-      viewer->show();
+      if (!drawsOffScreen())
+        viewer->show();
       return QApplication::exec();
     }
     const QImage image = viewer->renderToImage();
@@ -341,15 +452,29 @@ int run(const QCommandLineParser& options)
   if (screenshot.isEmpty() || window->size().boundedTo(largest) == window->size())
     dialog->show();
 
-  if (screenshot.isEmpty())
+  if (screenshot.isEmpty()) {
+    if (watch)
+      // The new window opens where the user left the old one.
+      watcher = std::make_unique<PreviewWatcher>(file, [&] {
+        ReadDialog fresh;
+        if (!rereadDialog(file, auditorId, build, fresh))
+          return;
+        fresh.dialog->getBaseWidget()->move(shown.dialog->getBaseWidget()->pos());
+        shown.dialog->hide();
+        fresh.dialog->show();
+        shown.release();
+        shown = fresh;
+        reportReload(file);
+      });
     return QApplication::exec();
+  }
 
   QApplication::processEvents();
-  const QRect shown(QPoint(0, 0), window->size().boundedTo(largest));
-  QPixmap picture = window->grab(shown);
+  const QRect shownPart(QPoint(0, 0), window->size().boundedTo(largest));
+  QPixmap picture = window->grab(shownPart);
   if (picture.isNull()) {
     // A window with nothing in it has no area of its own to grab.
-    picture = QPixmap(shown.size().expandedTo(QSize(1, 1)));
+    picture = QPixmap(shownPart.size().expandedTo(QSize(1, 1)));
     picture.fill(window->palette().color(QPalette::Window));
   }
   if (!picture.save(screenshot, "PNG"))
@@ -357,6 +482,7 @@ int run(const QCommandLineParser& options)
   std::printf("wrote %s\n", screenshot.toLocal8Bit().constData());
   return 0;
 }
+
 
 }
 
@@ -376,7 +502,9 @@ int main(int argc, char** argv)
   options.addOption({"id", "Open the node with this auditorID.", "AUDITOR_ID"});
   options.addOption({"3d", "Build the dialog as geometry and show it standing in a 3D scene."});
   options.addOption({"screenshot", "Render the dialog to this PNG file and exit.", "PNG"});
-  options.addOption({"list", "Print the tree of auditor identifiers and exit."});
+  options.addOption({"list", "Print the tree of auditor identifiers, menu entries and the dialogs of launchers "
+                             "included, and exit; without --id, of every dialog of the file."});
+  options.addOption({"watch", "Show the dialog and, each time its file is saved, read it again and show it anew."});
   options.addOption({"click",
                      "With --3d: click the left button at pixel X,Y of the scene, counted from its top left, before "
                      "the scene is shown or drawn; may be repeated, the clicks are made in order. Without a display "

@@ -137,7 +137,8 @@ public:
   // class's groups; a skin found nowhere changes nothing.
   static void setSkin(SbString path);
   // The search list: the installed skins below SCENICHOME first, then
-  // FORMWRIGHT_SKINS_DIR, separated by ";".
+  // FORMWRIGHT_SKINS_DIR, then the skins installed with the library,
+  // separated by ";".
   static SbString getSkinsDirectories();
   static SbString getSkinsDirectory();
   // Stores the FORMWRIGHT_SKINS_DIR preference; no skin changes by itself.

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QImage>
 #include <QProcess>
+#include <QSaveFile>
 #include <QTemporaryDir>
 #include <QWidget>
 #include <gtest/gtest.h>
@@ -41,6 +42,13 @@ PreviewRun preview(const QStringList& arguments)
 }
 
 const QString kExport = QString(FORMWRIGHT_EXAMPLES) + "/export.scn";
+
+void writeFile(const QString& path, const QByteArray& text)
+{
+  QFile out(path);
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly | QIODevice::Truncate));
+  out.write(text);
+}
 
 TEST(Preview, everyExampleRendersAtTheSizeOfItsNegotiatedDialog)
 {
@@ -138,6 +146,64 @@ TEST(Preview, badFilesEndWithZeroOrOneAndOneLineWhenRefused)
       EXPECT_FALSE(QImage(png).isNull());
     else
       EXPECT_EQ(err.split('\n').filter("formwright-preview:").size(), 1) << err.toStdString();
+  }
+}
+
+// Menu entries and the dialogs that launchers open are part of the tree.
+TEST(Preview, listShowsEveryAuditorIdOfTheFileOrOfOneDialog)
+{
+  QTemporaryDir dir;
+  const QString file = dir.filePath("menus.scn");
+  writeFile(file, R"(#Inventor V2.1 ascii
+TopLevelDialog { auditorID "main" MenuBar { auditorID "bar" MenuPopup { auditorID "file"
+  MenuPushButtonLauncher { auditorID "about" TopLevelDialog { auditorID "aboutDialog" } } } }
+  DialogCheckBoxLauncher { auditorID "more" TopLevelDialog { DialogCheckBox { auditorID "extra" } } } }
+TopLevelDialog { auditorID "second" DialogLabel { auditorID "note" } })");
+  const QString second = "TopLevelDialog \"second\"\n  DialogLabel \"note\"\n";
+  EXPECT_EQ(preview({file, "--list"}).out, "TopLevelDialog \"main\"\n  MenuBar \"bar\"\n    MenuPopup \"file\"\n"
+                                           "      MenuPushButtonLauncher \"about\"\n        TopLevelDialog \"aboutDialog\"\n"
+                                           "  DialogCheckBoxLauncher \"more\"\n    TopLevelDialog \"\"\n"
+                                           "      DialogCheckBox \"extra\"\n" + second);
+  EXPECT_EQ(preview({file, "--list", "--id", "second"}).out, second);
+}
+
+// Each save is seen once, whether the editor renames a new file onto the
+// old or writes it over; a save that does not read leaves the dialog shown.
+TEST(Preview, aWatchedFileIsReadAgainAtEachSaveInBothForms)
+{
+  const auto save = [](const QString& path, const char* control) {
+    QSaveFile out(path);
+    return out.open(QIODevice::WriteOnly) &&
+           out.write(QByteArray("#Inventor V2.1 ascii\nTopLevelDialog { ") + control + " { } }\n") > 0 && out.commit();
+  };
+  for (const QStringList& form : {QStringList(), QStringList{"--3d"}}) {
+    SCOPED_TRACE(form.join(' ').toStdString());
+    QTemporaryDir dir;
+    const QString file = dir.filePath("watched.scn");
+    const QString reloaded = "reloaded " + file + "\n";
+    ASSERT_TRUE(save(file, "DialogCheckBox"));
+    QProcess process;
+    startHeadless(process, QStringList{file, "--watch"} + form);
+    QString out[2];
+    const auto waitFor = [&](QProcess::ProcessChannel channel, const QString& text, int saves) {
+      process.setReadChannel(channel);
+      for (int second = 0; second < 20 && !out[channel].contains(text); ++second) {
+        if (saves-- > 0)
+          save(file, "DialogPushButton");
+        process.waitForReadyRead(1000);
+        out[channel] += QString::fromLocal8Bit(process.readAll());
+      }
+      return out[channel].contains(text);
+    };
+    // The watch starts once the dialog is up: saved again until it is seen.
+    ASSERT_TRUE(waitFor(QProcess::StandardOutput, reloaded, 20));
+    writeFile(file, "#Inventor V2.1 ascii\nTopLevelDialog { DialogCheckBox {");
+    ASSERT_TRUE(waitFor(QProcess::StandardError, "formwright-preview:", 0));
+    ASSERT_TRUE(save(file, "DialogLabel"));
+    EXPECT_TRUE(waitFor(QProcess::StandardOutput, reloaded + reloaded, 0));
+    process.kill();
+    process.waitForFinished();
+    EXPECT_EQ(out[0] + process.readAllStandardOutput(), reloaded + reloaded);
   }
 }
 

@@ -218,16 +218,26 @@ TEST(Skins, aMissingOrBrokenFileFallsBackOnTheBuiltInText)
   SoFormwright::setSkin(SbString(kDefaultSkin.c_str()));
 }
 
-TEST(Skins, theSearchListPutsTheInstalledSkinsFirst)
+// The skins installed with the library come last, below its own directory.
+TEST(Skins, theSearchListPutsTheInstalledSkinsFirstAndTheLibrarysOwnLast)
 {
+  const QString installed = QString(FORMWRIGHT_LIBRARY_DIRECTORY) + "/";
+  const auto entries = [] {
+    const QString list = SoFormwright::getSkinsDirectories().getString();
+    return list.split(';');
+  };
   SoPreferences::setString("SCENICHOME", "/opt/scenic");
   SoFormwright::setSkinsDirectories("/home/me/skins;/srv/skins");
-  EXPECT_EQ(SoFormwright::getSkinsDirectories(), SbString("/opt/scenic/data/Formwright/skins/;/home/me/skins;/srv/skins"));
+  QStringList list = entries();
+  ASSERT_EQ(list.size(), 4);
+  EXPECT_EQ(list.mid(0, 3), QStringList({"/opt/scenic/data/Formwright/skins/", "/home/me/skins", "/srv/skins"}));
+  EXPECT_TRUE(list[3].startsWith(installed) && list[3].endsWith("/data/Formwright/skins")) << list[3].toStdString();
   EXPECT_EQ(SoFormwright::getSkinsDirectory(), SoFormwright::getSkinsDirectories());
   SoPreferences::setString("SCENICHOME", "");
-  EXPECT_EQ(SoFormwright::getSkinsDirectories(), SbString("/home/me/skins;/srv/skins"));
-  SoPreferences::unsetString("SCENICHOME");
+  EXPECT_EQ(entries().mid(0, 2), QStringList({"/home/me/skins", "/srv/skins"}));
   SoPreferences::unsetString("FORMWRIGHT_SKINS_DIR");
+  EXPECT_EQ(entries(), QStringList{list[3]});
+  SoPreferences::unsetString("SCENICHOME");
 }
 
 TEST(Skins, aSkinIsFoundByNameInTheSearchList)

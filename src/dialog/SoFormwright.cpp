@@ -49,6 +49,8 @@
 #include <QFontMetrics>
 #include <QWidget>
 
+#include <dlfcn.h>
+
 #include <algorithm>
 #include <cctype>
 #include <iterator>
@@ -961,18 +963,39 @@ SbString SoFormwright::s_skinsPath;
 int SoFormwright::s_skinLoaded = 0;
 int SoFormwright::s_longSkinMessagePending = 1;
 
+namespace {
+
+// The skins installed with the library, found from the library's own file
+// rather than from the prefix it was configured for, so that an installed
+// tree works wherever it is put.
+SbString installedSkinsDirectory()
+{
+  Dl_info library;
+  if (!dladdr(reinterpret_cast<void*>(&installedSkinsDirectory), &library) || !library.dli_fname)
+    return SbString();
+  const std::string file(library.dli_fname);
+  return SbString((file.substr(0, file.rfind('/') + 1) + FORMWRIGHT_INSTALLED_SKINS).c_str());
+}
+
+}
+
 SbString SoFormwright::getSkinsDirectories()
 {
   SbString directories;
-  const SbString home = SoPreferences::getStringValue("SCENICHOME");
-  if (home.getLength() > 0)
-    directories = home + "/data/Formwright/skins/";
-  const SbString own = SoPreferences::getStringValue("FORMWRIGHT_SKINS_DIR");
-  if (own.getLength() > 0) {
+  const auto append = [&directories](const SbString& directory) {
+    if (directory.getLength() == 0)
+      return;
     if (directories.getLength() > 0)
       directories += ";";
-    directories += own;
-  }
+    directories += directory;
+  };
+  const SbString home = SoPreferences::getStringValue("SCENICHOME");
+  if (home.getLength() > 0)
+    append(home + "/data/Formwright/skins/");
+  append(SoPreferences::getStringValue("FORMWRIGHT_SKINS_DIR"));
+  // Last, so that an application's or a user's own skins of the same name
+  // win over it.
+  append(installedSkinsDirectory());
   return directories;
 }
 
