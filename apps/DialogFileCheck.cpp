@@ -17,6 +17,8 @@
 #include <SoMenuRadioButtons.h>
 #include <SoTopLevelDialog.h>
 
+#include <algorithm>
+
 #include <Inventor/SoDB.h>
 #include <Inventor/SoInput.h>
 #include <Inventor/errors/SoDebugError.h>
@@ -81,30 +83,29 @@ std::string bareMessage(const std::string& text, bool isReadError)
   return line;
 }
 
+bool isOfAnyType(const SoNode* node, std::initializer_list<SoType> types)
+{
+  return std::any_of(types.begin(), types.end(), [node](SoType type) { return node->isOfType(type); });
+}
+
 // The nodes whose use an auditor hears, and which the application tells
 // apart by their auditorID.
 bool isControl(const SoNode* node)
 {
-  for (SoType type : {SoDialogCheckBox::getClassTypeId(), SoDialogChoice::getClassTypeId(),
-                      SoDialogEditText::getClassTypeId(), SoDialogSlider::getClassTypeId(),
-                      SoDialogPushButton::getClassTypeId(), SoMenuCheckBox::getClassTypeId(),
-                      SoMenuPushButton::getClassTypeId(), SoMenuRadioButtons::getClassTypeId()})
-    if (node->isOfType(type))
-      return true;
-  return false;
+  return isOfAnyType(node, {SoDialogCheckBox::getClassTypeId(), SoDialogChoice::getClassTypeId(),
+                            SoDialogEditText::getClassTypeId(), SoDialogSlider::getClassTypeId(),
+                            SoDialogPushButton::getClassTypeId(), SoMenuCheckBox::getClassTypeId(),
+                            SoMenuPushButton::getClassTypeId(), SoMenuRadioButtons::getClassTypeId()});
 }
 
 // The interface nodes whose child list holds interface nodes; every other
 // node kit lists its parts there.
 bool holdsInterfaceNodes(const SoNode* node)
 {
-  for (SoType type : {SoTopLevelDialog::getClassTypeId(), SoDialogGroup::getClassTypeId(),
-                      SoMenuBar::getClassTypeId(), SoMenuPopup::getClassTypeId(),
-                      SoDialogCheckBoxLauncher::getClassTypeId(), SoDialogPushButtonLauncher::getClassTypeId(),
-                      SoMenuCheckBoxLauncher::getClassTypeId(), SoMenuPushButtonLauncher::getClassTypeId()})
-    if (node->isOfType(type))
-      return true;
-  return false;
+  return isOfAnyType(node, {SoTopLevelDialog::getClassTypeId(), SoDialogGroup::getClassTypeId(),
+                            SoMenuBar::getClassTypeId(), SoMenuPopup::getClassTypeId(),
+                            SoDialogCheckBoxLauncher::getClassTypeId(), SoDialogPushButtonLauncher::getClassTypeId(),
+                            SoMenuCheckBoxLauncher::getClassTypeId(), SoMenuPushButtonLauncher::getClassTypeId()});
 }
 
 }
