@@ -2,6 +2,7 @@
 
 #include <SoTypedObject.h>
 
+#include "SoIndexedFieldData.h"
 #include "SoKeptType.h"
 
 #include <Inventor/errors/SoDebugError.h>
@@ -61,7 +62,7 @@ void SoFormwrightClassData::exitClass()
     SoType::overrideType(classTypeId, nullptr);
     m_keptType = classTypeId;
     classTypeId = SoType::badType();
-    delete fieldData;
+    delete static_cast<SoIndexedFieldData*>(fieldData);
     fieldData = nullptr;
     parentFieldData = nullptr;
     firstInstance = 1;
@@ -88,7 +89,7 @@ const SoFieldData* SoFormwrightClassData::getFieldData()
   SbThreadAutoLock lock(&classMutex);
   if (!fieldData) {
     SoDebugError::post(m_className, "%s", kNotConstructed);
-    fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+    fieldData = new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr);
   }
   return fieldData;
 }
@@ -107,8 +108,8 @@ void SoFormwrightClassData::beginInstance(const void* instance, void (*initClass
     if (!m_fieldDataStarted) {
       // A table made meanwhile for a node left over from an earlier start is
       // empty: the first instance of this start fills a new one.
-      delete fieldData;
-      fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+      delete static_cast<SoIndexedFieldData*>(fieldData);
+      fieldData = new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr);
       m_fieldDataStarted = true;
     } else {
       firstInstance = 0;
@@ -130,13 +131,13 @@ void SoFormwrightClassData::ensureFieldData()
   if (!fieldData) {
     const std::string source = std::string("dialog/") + m_className;
     SoDebugError::post(source.c_str(), "%s", kNotConstructed);
-    fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+    fieldData = new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr);
   }
 }
 
 void SoFormwrightClassData::enterField(SoFieldContainer* instance, const char* name, SoField& field)
 {
-  fieldData->addField(instance, name, &field);
+  static_cast<SoIndexedFieldData*>(fieldData)->addField(instance, name, &field);
 }
 
 void SoFormwrightClassData::addEnumValue(const char* enumName, const char* valueName, int value)
