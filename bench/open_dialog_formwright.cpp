@@ -30,7 +30,7 @@ int main(int argc, char** argv)
     const QSize size = dialog->getBaseWidget()->size();
     std::printf("%d %d\n", size.width(), size.height());
   }
-  dialog->hide();
-  SoFormwright::finish();
+  // Like the loader's program, it ends with the window open: tearing a
+  // window down is no part of opening it.
   return 0;
 }

@@ -11,7 +11,6 @@
 #include <QWidget>
 
 #include <cstdlib>
-#include <memory>
 
 int main(int argc, char** argv)
 {
@@ -23,7 +22,8 @@ int main(int argc, char** argv)
   if (!file.open(QFile::ReadOnly))
     return 1;
   QUiLoader loader;
-  std::unique_ptr<QWidget> window(loader.load(&file));
+  // Left to the process's end, as the window of an application that quits.
+  QWidget* window = loader.load(&file);
   if (!window)
     return 1;
   if (argc > 3)
