@@ -20,6 +20,19 @@ struct ActionMethodIndex : SoNode {
   static void increment() { incNextActionMethodIndex(); }
 };
 
+// The table is read at every field access of every node, and written only
+// while a class is registered or its first instance is made: readers take
+// no lock, writers publish the table whole.
+const SoFieldData* publishedTable(SoFieldData* const& table)
+{
+  return __atomic_load_n(&table, __ATOMIC_ACQUIRE);
+}
+
+void publishTable(SoFieldData*& table, SoFieldData* made)
+{
+  __atomic_store_n(&table, made, __ATOMIC_RELEASE);
+}
+
 const char* const kNotConstructed =
   "Instance not properly constructed.\nDid you forget to put SO_NODE_CONSTRUCTOR() in the constructor?";
 }
@@ -63,7 +76,7 @@ void SoFormwrightClassData::exitClass()
     m_keptType = classTypeId;
     classTypeId = SoType::badType();
     delete static_cast<SoIndexedFieldData*>(fieldData);
-    fieldData = nullptr;
+    publishTable(fieldData, nullptr);
     parentFieldData = nullptr;
     firstInstance = 1;
     m_fieldDataStarted = false;
@@ -86,10 +99,12 @@ const SoFieldData** SoFormwrightClassData::getFieldDataPtr()
 
 const SoFieldData* SoFormwrightClassData::getFieldData()
 {
+  if (const SoFieldData* made = publishedTable(fieldData))
+    return made;
   SbThreadAutoLock lock(&classMutex);
   if (!fieldData) {
     SoDebugError::post(m_className, "%s", kNotConstructed);
-    fieldData = new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr);
+    publishTable(fieldData, new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr));
   }
   return fieldData;
 }
@@ -109,7 +124,7 @@ void SoFormwrightClassData::beginInstance(const void* instance, void (*initClass
       // A table made meanwhile for a node left over from an earlier start is
       // empty: the first instance of this start fills a new one.
       delete static_cast<SoIndexedFieldData*>(fieldData);
-      fieldData = new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr);
+      publishTable(fieldData, new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr));
       m_fieldDataStarted = true;
     } else {
       firstInstance = 0;
@@ -131,7 +146,7 @@ void SoFormwrightClassData::ensureFieldData()
   if (!fieldData) {
     const std::string source = std::string("dialog/") + m_className;
     SoDebugError::post(source.c_str(), "%s", kNotConstructed);
-    fieldData = new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr);
+    publishTable(fieldData, new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr));
   }
 }
 
