@@ -3,7 +3,25 @@
 #include <sstream>
 
 namespace {
-const int kKindCount = 10;
+using Kind = BenchmarkDialog::Kind;
+
+const std::vector<Kind>& kindsOf(BenchmarkDialog::Mix mix)
+{
+  static const std::vector<Kind> every{Kind::Label,        Kind::PushButton,    Kind::CheckBox,   Kind::LineEdit,
+                                       Kind::MultiLineEdit, Kind::ComboBox,      Kind::RadioButtons,
+                                       Kind::IntegerSlider, Kind::RealSlider,    Kind::Separator};
+  static const std::vector<Kind> mixed{Kind::CheckBox, Kind::PushButton,    Kind::ComboBox,
+                                       Kind::LineEdit, Kind::IntegerSlider, Kind::Label};
+  static const std::vector<Kind> labelsAndCheckBoxes{Kind::Label, Kind::CheckBox};
+  switch (mix) {
+  case BenchmarkDialog::Mix::Mixed:
+    return mixed;
+  case BenchmarkDialog::Mix::LabelsAndCheckBoxes:
+    return labelsAndCheckBoxes;
+  default:
+    return every;
+  }
+}
 
 // Labels from one word to a short sentence, so that the label columns are
 // measured on texts of varied length.
@@ -59,7 +77,6 @@ private:
 
 void writeUiControl(UiWriter& ui, const BenchmarkDialog::Control& control, int row)
 {
-  using Kind = BenchmarkDialog::Kind;
   const std::string place = " row=\"" + std::to_string(row) + "\" column=\"1\"";
   // These span the form: a label, a line, and radio buttons whose label is
   // the title of their box.
@@ -130,7 +147,6 @@ void writeUiControl(UiWriter& ui, const BenchmarkDialog::Control& control, int r
 
 void writeFormwrightControl(std::ostringstream& out, const BenchmarkDialog::Control& control)
 {
-  using Kind = BenchmarkDialog::Kind;
   const std::string label = "label \"" + control.label + "\"";
   std::string items = "items [";
   for (const std::string& choice : BenchmarkDialog::choices())
@@ -177,10 +193,24 @@ const std::vector<std::string>& BenchmarkDialog::choices()
   return entries;
 }
 
-BenchmarkDialog::BenchmarkDialog(int controls, int rows, int variant) : m_controlCount(controls), m_rows(rows)
+BenchmarkDialog::BenchmarkDialog(int controls, int rows, int variant, Mix mix)
+  : m_controlCount(controls), m_rows(rows)
 {
+  const std::vector<Kind>& kinds = kindsOf(mix);
   for (int i = 0; i < controls; ++i)
-    m_rows[i * rows / controls].push_back(Control{static_cast<Kind>(i % kKindCount), labelFor(i, variant)});
+    m_rows[i * rows / controls].push_back(Control{kinds[i % kinds.size()], labelFor(i, variant)});
+}
+
+const char* BenchmarkDialog::nameOf(Mix mix)
+{
+  switch (mix) {
+  case Mix::Mixed:
+    return "mixed";
+  case Mix::LabelsAndCheckBoxes:
+    return "labels and check boxes";
+  default:
+    return "every kind";
+  }
 }
 
 std::string BenchmarkDialog::formwrightText() const

@@ -23,6 +23,16 @@ public:
     Separator
   };
 
+  // Which kinds follow each other: every kind, or one of the two dialogs
+  // whose first openings are compared with the loader's.
+  enum class Mix {
+    EveryKind,
+    // Labelled check boxes, push buttons, combo boxes, one-line edit texts,
+    // integer sliders and labels.
+    Mixed,
+    LabelsAndCheckBoxes
+  };
+
   struct Control {
     Kind kind;
     std::string label;
@@ -31,11 +41,13 @@ public:
   // The three entries of every combo box and every set of radio buttons.
   static const std::vector<std::string>& choices();
 
-  // `controls` controls of every kind in turn, in `rows` rows (vertical
-  // stacks) side by side in one column container inside a window. Dialogs
-  // of other `variant`s have other label texts, so that no text measured
-  // for one is already known when another is opened.
-  explicit BenchmarkDialog(int controls, int rows = 2, int variant = 0);
+  // `controls` controls of the kinds of `mix` in turn, in `rows` rows
+  // (vertical stacks) side by side in one column container inside a window.
+  // Dialogs of other `variant`s have other label texts, so that no text
+  // measured for one is already known when another is opened.
+  explicit BenchmarkDialog(int controls, int rows = 2, int variant = 0, Mix mix = Mix::EveryKind);
+
+  static const char* nameOf(Mix mix);
 
   int controlCount() const { return m_controlCount; }
   const std::vector<std::vector<Control>>& rows() const { return m_rows; }

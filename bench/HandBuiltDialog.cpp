@@ -105,7 +105,10 @@ void buildControl(QWidget* row, QBoxLayout* rowLayout, const BenchmarkDialog::Co
     break;
   }
   case Kind::ComboBox: {
-    auto* combo = fontedChild<QComboBox>(frame);
+    // Given to the frame first: a combo box whose font changes makes its
+    // popup list at once.
+    frame->setFont(dialogFont());
+    auto* combo = new QComboBox(frame);
     for (const std::string& choice : BenchmarkDialog::choices())
       combo->addItem(QString::fromStdString(choice));
     sideLabel(frame, control.label);

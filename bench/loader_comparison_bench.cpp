@@ -36,6 +36,7 @@
 #include <sys/resource.h>
 #include <map>
 #include <memory>
+#include <tuple>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -79,11 +80,19 @@ double median(std::vector<double> values)
   return values.size() % 2 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
+using Mix = BenchmarkDialog::Mix;
+
+// A dialog of one mix and size.
+using Shape = std::pair<Mix, int>;
+
 // The dialog of N controls, written once as both files.
 struct DialogFiles {
   BenchmarkDialog dialog;
+  Mix mix;
   std::string formwrightPath;
   QString uiPath;
+
+  Shape shape() const { return {mix, dialog.controlCount()}; }
 };
 
 QTemporaryDir& fileDirectory()
@@ -92,15 +101,16 @@ QTemporaryDir& fileDirectory()
   return directory;
 }
 
-// Each variant of a size is written once and kept.
-const DialogFiles& filesFor(int controls, int variant = 0)
+// Each variant of a shape is written once and kept.
+const DialogFiles& filesFor(Shape shape, int variant = 0)
 {
-  static std::map<std::pair<int, int>, std::unique_ptr<DialogFiles>> files;
-  std::unique_ptr<DialogFiles>& entry = files[{controls, variant}];
+  static std::map<std::tuple<Mix, int, int>, std::unique_ptr<DialogFiles>> files;
+  std::unique_ptr<DialogFiles>& entry = files[{shape.first, shape.second, variant}];
   if (!entry) {
-    const QString base =
-      fileDirectory().filePath(QString("dialog%1-%2").arg(controls).arg(variant));
-    entry.reset(new DialogFiles{BenchmarkDialog(controls, 2, variant), (base + ".scn").toStdString(), base + ".ui"});
+    const QString base = fileDirectory().filePath(
+      QString("dialog%1-%2-%3").arg(static_cast<int>(shape.first)).arg(shape.second).arg(variant));
+    entry.reset(new DialogFiles{BenchmarkDialog(shape.second, 2, variant, shape.first), shape.first,
+                                (base + ".scn").toStdString(), base + ".ui"});
     std::ofstream(entry->formwrightPath) << entry->dialog.formwrightText();
     std::ofstream(entry->uiPath.toStdString()) << entry->dialog.uiText();
   }
@@ -133,24 +143,24 @@ SoTopLevelDialog* formwrightOpen(const DialogFiles& files)
 // Painting is a large part of a first show, and it grows with the window:
 // the loaded and the hand-built window open at the size that Formwright's
 // negotiation gives the same dialog, as their authors would have set it.
-std::map<int, QSize>& windowSizes()
+std::map<Shape, QSize>& windowSizes()
 {
-  static std::map<int, QSize> sizes;
+  static std::map<Shape, QSize> sizes;
   return sizes;
 }
 
-void sizeLikeFormwright(QWidget* window, int controls)
+void sizeLikeFormwright(QWidget* window, Shape shape)
 {
-  const auto found = windowSizes().find(controls);
+  const auto found = windowSizes().find(shape);
   if (found != windowSizes().end())
     window->resize(found->second);
 }
 
 // Interface nodes stay in memory after their last reference, by design:
 // only the window can go.
-void formwrightClose(SoTopLevelDialog* dialog, int controls)
+void formwrightClose(SoTopLevelDialog* dialog, Shape shape)
 {
-  windowSizes().emplace(controls, dialog->getBaseWidget()->size());
+  windowSizes().emplace(shape, dialog->getBaseWidget()->size());
   delete dialog->getBaseWidget();
 }
 
@@ -165,7 +175,7 @@ QWidget* loaderOpen(const DialogFiles& files)
   QFile file(files.uiPath);
   file.open(QFile::ReadOnly);
   QWidget* window = uiLoader().load(&file);
-  sizeLikeFormwright(window, files.dialog.controlCount());
+  sizeLikeFormwright(window, files.shape());
   window->show();
   QCoreApplication::processEvents();
   return window;
@@ -174,7 +184,7 @@ QWidget* loaderOpen(const DialogFiles& files)
 QWidget* handOpen(const DialogFiles& files)
 {
   QWidget* window = HandBuiltDialog::build(files.dialog);
-  sizeLikeFormwright(window, files.dialog.controlCount());
+  sizeLikeFormwright(window, files.shape());
   window->show();
   QCoreApplication::processEvents();
   return window;
@@ -193,9 +203,9 @@ struct Figures {
   Medians faults;
 };
 
-std::map<int, Figures>& table()
+std::map<Shape, Figures>& table()
 {
-  static std::map<int, Figures> figures;
+  static std::map<Shape, Figures> figures;
   return figures;
 }
 
@@ -214,11 +224,12 @@ struct Samples {
 
 void openDialog(benchmark::State& state)
 {
-  const int controls = static_cast<int>(state.range(0));
+  const int controls = static_cast<int>(state.range(1));
+  const Shape shape{static_cast<Mix>(state.range(0)), controls};
   // Everything each contender meets on its first run, Qt's plugins and
   // styles among them, is paid before the timing starts.
-  const DialogFiles& warmUp = filesFor(controls);
-  formwrightClose(formwrightOpen(warmUp), controls);
+  const DialogFiles& warmUp = filesFor(shape);
+  formwrightClose(formwrightOpen(warmUp), shape);
   delete loaderOpen(warmUp);
   delete handOpen(warmUp);
 
@@ -228,14 +239,14 @@ void openDialog(benchmark::State& state)
     // Texts new to the process, as on the first opening of a dialog: no
     // contender finds the widths of its labels already measured. Only the
     // contenders' own times count: writing the files is not timed.
-    const DialogFiles& files = filesFor(controls, turn + 1);
+    const DialogFiles& files = filesFor(shape, turn + 1);
     for (int step = 0; step < 3; ++step) {
       const int contender = (turn + step) % 3;
       const Stopwatch watch;
       if (contender == 0) {
         SoTopLevelDialog* dialog = formwrightOpen(files);
         formwright.add(watch);
-        formwrightClose(dialog, controls);
+        formwrightClose(dialog, shape);
       } else if (contender == 1) {
         QWidget* window = loaderOpen(files);
         loader.add(watch);
@@ -252,7 +263,7 @@ void openDialog(benchmark::State& state)
   const Figures figures{{median(formwright.cpu), median(loader.cpu), median(hand.cpu)},
                         {median(formwright.wall), median(loader.wall), median(hand.wall)},
                         {median(formwright.faults), median(loader.faults), median(hand.faults)}};
-  table()[controls] = figures;
+  table()[shape] = figures;
   const Medians& m = figures.cpu;
   state.counters["fw_us_per_control"] = 1e6 * m.formwright / controls;
   state.counters["loader_us_per_control"] = 1e6 * m.loader / controls;
@@ -260,16 +271,29 @@ void openDialog(benchmark::State& state)
   state.counters["fw_over_loader"] = m.formwright / m.loader;
   state.counters["fw_over_hand"] = m.formwright / m.hand;
 }
-BENCHMARK(openDialog)->Arg(10)->Iterations(201)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(openDialog)->Arg(100)->Iterations(61)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(openDialog)->Arg(1000)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(openDialog)->Arg(10000)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
+// Both dialogs compared with the loader, at one size.
+void bothMixes(benchmark::internal::Benchmark* benchmark, int controls, int iterations)
+{
+  for (const Mix mix : {Mix::Mixed, Mix::LabelsAndCheckBoxes})
+    benchmark->Args({static_cast<int>(mix), controls});
+  benchmark->Iterations(iterations)->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+BENCHMARK(openDialog)->Apply([](benchmark::internal::Benchmark* b) { bothMixes(b, 10, 201); });
+BENCHMARK(openDialog)->Apply([](benchmark::internal::Benchmark* b) { bothMixes(b, 100, 61); });
+BENCHMARK(openDialog)->Apply([](benchmark::internal::Benchmark* b) { bothMixes(b, 1000, 15); });
+BENCHMARK(openDialog)->Apply([](benchmark::internal::Benchmark* b) { bothMixes(b, 10000, 5); });
+
+// The dialog of every kind in turn, for the benchmarks on a built dialog.
+Shape everyKind(int controls)
+{
+  return {Mix::EveryKind, controls};
+}
 
 // A field set by the application until its widget shows the value, against
 // the widget's own setter.
 void setFieldValue(benchmark::State& state)
 {
-  auto* dialog = formwrightOpen(filesFor(10));
+  auto* dialog = formwrightOpen(filesFor(everyKind(10)));
   // The fourth control of every ten is a one-line edit text.
   auto* row = static_cast<SoRowDialog*>(static_cast<SoColumnDialog*>(dialog->getChild(0))->getChild(0));
   auto* edit = static_cast<SoDialogEditText*>(row->getChild(3));
@@ -279,7 +303,7 @@ void setFieldValue(benchmark::State& state)
     edit->editText = (i++ % 2) ? "first" : "second";
   if (shown->text() != QString(edit->editText.getValue().getString()))
     state.SkipWithError("the widget does not show the field's value");
-  formwrightClose(dialog, 10);
+  formwrightClose(dialog, everyKind(10));
 }
 BENCHMARK(setFieldValue);
 
@@ -297,7 +321,8 @@ BENCHMARK(setWidgetText);
 // again; the label is taken out untimed.
 void rebuildAfterAddingAChild(benchmark::State& state)
 {
-  SoTopLevelDialog* dialog = formwrightOpen(filesFor(static_cast<int>(state.range(0))));
+  const Shape shape = everyKind(static_cast<int>(state.range(0)));
+  SoTopLevelDialog* dialog = formwrightOpen(filesFor(shape));
   auto* row = static_cast<SoRowDialog*>(static_cast<SoColumnDialog*>(dialog->getChild(0))->getChild(0));
   for (auto _ : state) {
     auto* extra = new SoDialogLabel;
@@ -307,7 +332,7 @@ void rebuildAfterAddingAChild(benchmark::State& state)
     row->removeChild(row->getNumChildren() - 1);
     state.ResumeTiming();
   }
-  formwrightClose(dialog, static_cast<int>(state.range(0)));
+  formwrightClose(dialog, shape);
 }
 BENCHMARK(rebuildAfterAddingAChild)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 
@@ -336,7 +361,8 @@ struct MemoryFigures {
 // memory the other gave back.
 MemoryFigures measureMemory(int controls)
 {
-  const DialogFiles& files = filesFor(controls);
+  const Shape shape{Mix::Mixed, controls};
+  const DialogFiles& files = filesFor(shape);
   const long resident0 = residentBytes(), heap0 = heapBytes();
   SoTopLevelDialog* dialog = formwrightRead(files);
   const long residentRead = residentBytes(), heapRead = heapBytes();
@@ -344,10 +370,10 @@ MemoryFigures measureMemory(int controls)
   dialog->show();
   QCoreApplication::processEvents();
   const long resident1 = residentBytes(), heap1 = heapBytes();
-  windowSizes().emplace(controls, dialog->getBaseWidget()->size());
+  windowSizes().emplace(shape, dialog->getBaseWidget()->size());
   QWidget* window = loaderOpen(files);
   const long resident2 = residentBytes(), heap2 = heapBytes();
-  formwrightClose(dialog, controls);
+  formwrightClose(dialog, shape);
   delete window;
   const double n = controls;
   return {(residentRead - resident0) / n, (heapRead - heap0) / n, (resident1 - resident0) / n,
@@ -357,29 +383,34 @@ MemoryFigures measureMemory(int controls)
 void printMedians(const char* clock, Medians Figures::*which)
 {
   std::printf("\nMedians of interleaved runs, %s: load + build + show + one processEvents\n", clock);
-  std::printf("%8s %14s %14s %14s %12s %12s\n", "N", "Formwright", "QUiLoader", "hand-written", "FW/loader",
-              "FW/hand");
-  std::printf("%8s %14s %14s %14s %12s %12s\n", "", "us/control", "us/control", "us/control", "", "");
-  for (const auto& [controls, figures] : table()) {
+  std::printf("%-24s %8s %14s %14s %14s %12s %12s\n", "dialog", "N", "Formwright", "QUiLoader", "hand-written",
+              "FW/loader", "FW/hand");
+  std::printf("%-24s %8s %14s %14s %14s %12s %12s\n", "", "", "us/control", "us/control", "us/control", "", "");
+  for (const auto& [shape, figures] : table()) {
+    const int controls = shape.second;
     const Medians& m = figures.*which;
-    std::printf("%8d %14.2f %14.2f %14.2f %12.2f %12.2f\n", controls, 1e6 * m.formwright / controls,
-                1e6 * m.loader / controls, 1e6 * m.hand / controls, m.formwright / m.loader, m.formwright / m.hand);
+    std::printf("%-24s %8d %14.2f %14.2f %14.2f %12.2f %12.2f\n", BenchmarkDialog::nameOf(shape.first), controls,
+                1e6 * m.formwright / controls, 1e6 * m.loader / controls, 1e6 * m.hand / controls,
+                m.formwright / m.loader, m.formwright / m.hand);
   }
-  if (table().count(1000) && table().count(10000)) {
-    const Medians& small = table()[1000].*which;
-    const Medians& large = table()[10000].*which;
-    std::printf("Growth from 1,000 to 10,000 controls: Formwright %.1fx, QUiLoader %.1fx, hand-written %.1fx\n",
-                large.formwright / small.formwright, large.loader / small.loader, large.hand / small.hand);
+  for (const Mix mix : {Mix::Mixed, Mix::LabelsAndCheckBoxes}) {
+    if (!table().count({mix, 1000}) || !table().count({mix, 10000}))
+      continue;
+    const Medians& small = table()[{mix, 1000}].*which;
+    const Medians& large = table()[{mix, 10000}].*which;
+    std::printf("Growth from 1,000 to 10,000 controls, %s: Formwright %.1fx, QUiLoader %.1fx, hand-written %.1fx\n",
+                BenchmarkDialog::nameOf(mix), large.formwright / small.formwright, large.loader / small.loader,
+                large.hand / small.hand);
   }
 }
 
 void printFaults()
 {
-  std::printf("\nMedian minor page faults per opening\n%8s %14s %14s %14s\n", "N", "Formwright", "QUiLoader",
-              "hand-written");
-  for (const auto& [controls, figures] : table())
-    std::printf("%8d %14.0f %14.0f %14.0f\n", controls, figures.faults.formwright, figures.faults.loader,
-                figures.faults.hand);
+  std::printf("\nMedian minor page faults per opening\n%-24s %8s %14s %14s %14s\n", "dialog", "N", "Formwright",
+              "QUiLoader", "hand-written");
+  for (const auto& [shape, figures] : table())
+    std::printf("%-24s %8d %14.0f %14.0f %14.0f\n", BenchmarkDialog::nameOf(shape.first), shape.second,
+                figures.faults.formwright, figures.faults.loader, figures.faults.hand);
 }
 
 void printTable(const MemoryFigures& memory, int memoryControls)
@@ -387,8 +418,8 @@ void printTable(const MemoryFigures& memory, int memoryControls)
   printMedians("processor time of the main thread", &Figures::cpu);
   printMedians("wall time", &Figures::wall);
   printFaults();
-  const QSize window = windowSizes()[memoryControls];
-  std::printf("\nMemory per control at N = %d, window of %dx%d pixels shown (its pixels: %.1f KiB per control)\n",
+  const QSize window = windowSizes()[{Mix::Mixed, memoryControls}];
+  std::printf("\nMemory per control, the mixed dialog at N = %d, window of %dx%d pixels shown (its pixels: %.1f KiB per control)\n",
               memoryControls, window.width(), window.height(),
               4.0 * window.width() * window.height() / memoryControls / 1024);
   std::printf("  Formwright: %.1f KiB resident, %.1f KiB heap; of which the nodes read: %.1f KiB resident, "
@@ -420,8 +451,8 @@ int main(int argc, char** argv)
   benchmark::Initialize(&argc, argv);
   // Measured first, on a heap that no earlier run has left holes in.
   const int memoryControls = 1000;
-  formwrightClose(formwrightOpen(filesFor(10)), 10);
-  delete loaderOpen(filesFor(10));
+  formwrightClose(formwrightOpen(filesFor(everyKind(10))), everyKind(10));
+  delete loaderOpen(filesFor(everyKind(10)));
   const MemoryFigures memory = measureMemory(memoryControls);
   benchmark::RunSpecifiedBenchmarks();
   printTable(memory, memoryControls);

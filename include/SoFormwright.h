@@ -51,6 +51,10 @@ public:
   SoSFString auditorID;
   SoSFEnum labelAlignment;
 
+  // Found through the class's index of field names rather than a walk
+  // through all the fields.
+  SoField* getField(const SbName& name) const override;
+
   // Counted start and end of the library; init may be called any number of
   // times, and each finish undoes one of them. init starts the toolkit;
   // finish never ends it, as others may still use it. The last finish hides

@@ -14,6 +14,7 @@
 #include "SoFormwrightClassList.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoGuardedFile.h"
+#include "SoIndexedFieldData.h"
 #include "SoPreferences.h"
 #include "SoSFFilePathString.h"
 
@@ -205,6 +206,13 @@ SoFormwright::~SoFormwright()
   delete enableSensor;
   delete labelSensor;
   delete labelAlignmentSensor;
+}
+
+SoField* SoFormwright::getField(const SbName& name) const
+{
+  if (const SoIndexedFieldData* fields = SoIndexedFieldData::find(getFieldData()))
+    return fields->getField(this, name);
+  return SoDragger::getField(name);
 }
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <SoTypedObject.h>
 
+#include "SoIndexedFieldData.h"
 #include "SoKeptType.h"
 
 #include <Inventor/errors/SoDebugError.h>
@@ -18,6 +19,19 @@ struct ActionMethodIndex : SoNode {
   static int next() { return getNextActionMethodIndex(); }
   static void increment() { incNextActionMethodIndex(); }
 };
+
+// The table is read at every field access of every node, and written only
+// while a class is registered or its first instance is made: readers take
+// no lock, writers publish the table whole.
+const SoFieldData* publishedTable(SoFieldData* const& table)
+{
+  return __atomic_load_n(&table, __ATOMIC_ACQUIRE);
+}
+
+void publishTable(SoFieldData*& table, SoFieldData* made)
+{
+  __atomic_store_n(&table, made, __ATOMIC_RELEASE);
+}
 
 const char* const kNotConstructed =
   "Instance not properly constructed.\nDid you forget to put SO_NODE_CONSTRUCTOR() in the constructor?";
@@ -61,8 +75,8 @@ void SoFormwrightClassData::exitClass()
     SoType::overrideType(classTypeId, nullptr);
     m_keptType = classTypeId;
     classTypeId = SoType::badType();
-    delete fieldData;
-    fieldData = nullptr;
+    delete static_cast<SoIndexedFieldData*>(fieldData);
+    publishTable(fieldData, nullptr);
     parentFieldData = nullptr;
     firstInstance = 1;
     m_fieldDataStarted = false;
@@ -85,10 +99,12 @@ const SoFieldData** SoFormwrightClassData::getFieldDataPtr()
 
 const SoFieldData* SoFormwrightClassData::getFieldData()
 {
+  if (const SoFieldData* made = publishedTable(fieldData))
+    return made;
   SbThreadAutoLock lock(&classMutex);
   if (!fieldData) {
     SoDebugError::post(m_className, "%s", kNotConstructed);
-    fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+    publishTable(fieldData, new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr));
   }
   return fieldData;
 }
@@ -107,8 +123,8 @@ void SoFormwrightClassData::beginInstance(const void* instance, void (*initClass
     if (!m_fieldDataStarted) {
       // A table made meanwhile for a node left over from an earlier start is
       // empty: the first instance of this start fills a new one.
-      delete fieldData;
-      fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+      delete static_cast<SoIndexedFieldData*>(fieldData);
+      publishTable(fieldData, new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr));
       m_fieldDataStarted = true;
     } else {
       firstInstance = 0;
@@ -130,13 +146,13 @@ void SoFormwrightClassData::ensureFieldData()
   if (!fieldData) {
     const std::string source = std::string("dialog/") + m_className;
     SoDebugError::post(source.c_str(), "%s", kNotConstructed);
-    fieldData = new SoFieldData(parentFieldData ? *parentFieldData : nullptr);
+    publishTable(fieldData, new SoIndexedFieldData(parentFieldData ? *parentFieldData : nullptr));
   }
 }
 
 void SoFormwrightClassData::enterField(SoFieldContainer* instance, const char* name, SoField& field)
 {
-  fieldData->addField(instance, name, &field);
+  static_cast<SoIndexedFieldData*>(fieldData)->addField(instance, name, &field);
 }
 
 void SoFormwrightClassData::addEnumValue(const char* enumName, const char* valueName, int value)

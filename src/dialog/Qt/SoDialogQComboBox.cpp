@@ -11,13 +11,15 @@ SoDialogQComboBox::SoDialogQComboBox(QWidget* parent, SoDialogComboBox* node)
   : SoDialogQFrame(parent, node), m_node(node)
 {
   setObjectName("FWTSoDialogQComboBoxFrame");
+  // The pieces take the dialog font from their frame as they are made: a
+  // font set on a combo box afterwards makes it build its popup list at
+  // once, which costs more than all the rest of the box.
+  SoFormwright::setWidgetFont(this);
   m_comboBox = new QComboBox(this);
   m_comboBox->setObjectName("FWTSoDialogQComboBoxComboBoxWidget");
   m_comboBox->setEditable(false);
   m_label = new QLabel(this);
   m_label->setObjectName("FWTSoDialogQComboBoxLabelWidget");
-  SoFormwright::setWidgetFont(m_comboBox);
-  SoFormwright::setWidgetFont(m_label);
   // Only the user's choices are activations, so the node's own changes of
   // the list and the index need no disconnection.
   connect(m_comboBox, SIGNAL(activated(int)), this, SLOT(eventNotify(int)), Qt::AutoConnection);
