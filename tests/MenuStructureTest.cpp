@@ -5,6 +5,7 @@
 #include "TestSupport.h"
 
 #include <SoDialogCheckBoxLauncher.h>
+#include <SoDialogGroup.h>
 #include <SoDialogLabel.h>
 #include <SoDialogPushButtonLauncher.h>
 #include <SoMenuBar.h>
@@ -137,7 +138,7 @@ TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
 // Misuse of a container's child operations, which is reported and changes
 // nothing, on a container of two children. The last index that a removal or
 // replacement names is the count for some containers and the count less one
-// for others; the launchers' getChild adds a warning.
+// for others; the getChild of launchers and dialog containers adds a warning.
 template <class Container, class Child>
 void expectMisuseReported(const std::string& name, int lastIndex, const char* getChildWarning)
 {
@@ -172,8 +173,10 @@ void expectMisuseReported(const std::string& name, int lastIndex, const char* ge
   EXPECT_EQ(appended->getParent(), container);
 }
 
-TEST(MenuContainers, misuseOfTheChildOperationsIsReported)
+TEST(Containers, misuseOfTheChildOperationsIsReported)
 {
+  expectMisuseReported<SoTopLevelDialog, SoDialogLabel>("SoTopLevelDialog", 2, "; Be careful");
+  expectMisuseReported<SoDialogGroup, SoDialogLabel>("SoDialogGroup", 2, "; Be careful");
   expectMisuseReported<SoMenuBar, SoMenuPopup>("SoMenuBar", 2, "");
   expectMisuseReported<SoMenuPopup, SoMenuPopup>("SoMenuPopup", 2, "");
   expectMisuseReported<SoMenuPushButtonLauncher, SoTopLevelDialog>("SoMenuPushButtonLauncher", 1, "; Be careful");

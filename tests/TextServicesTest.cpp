@@ -94,6 +94,16 @@ TEST(TextServices, labelPixelSizeTakesTheWidestLineAndAllHeights)
     << "one line by default, as wide as the whole text";
   editText->multiLine = TRUE;
   EXPECT_EQ(SoFormwright::getLabelPixelSize(text, editText), measure({"first\r", "second line"}));
+  editText->multiLine = FALSE;
+  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, editText), measure({"first\r\nsecond line"}));
+
+  // A size kept once measured is not handed to a node that reads the text
+  // otherwise, whichever asked first.
+  auto* combo = makeNode<SoDialogComboBox>();
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(SoFormwright::getLabelPixelSize("tab\\tand", combo), measure({"tab\\tand"})) << round;
+    EXPECT_EQ(SoFormwright::getLabelPixelSize("tab\\tand", nullptr), measure({"tab\tand"})) << round;
+  }
 }
 
 TEST(TextServices, newFontChangesLaterMeasuresButNotBuiltWidgets)
