@@ -5,9 +5,6 @@
 #include <SoDialogLabel.h>
 #include <SoFormwright.h>
 
-#include <Inventor/SbViewportRegion.h>
-#include <Inventor/actions/SoGetBoundingBoxAction.h>
-#include <Inventor/nodes/SoFont.h>
 #include <Inventor/nodes/SoText3.h>
 #include <QFontMetrics>
 #include <QWidget>
@@ -18,15 +15,13 @@
 
 namespace {
 
-// Reaches the protected text services; also serves as the owner node whose
-// box action measures 3D text.
+// Reaches the protected text services.
 class TextNode : public SoFormwright {
 public:
   using SoFormwright::convertToCString;
   using SoFormwright::getNumLines;
   using SoFormwright::insertTextTo3DText;
   using SoFormwright::setStringToText3;
-  using SoFormwright::wrap3DTextLine;
 };
 
 // The measure of text as the library takes it: the widest line, the height
@@ -147,65 +142,6 @@ TEST(TextServices, textIsSplitOverTheStringValuesAndInsertedIntoThem)
   EXPECT_EQ(TextNode::insertTextTo3DText("ab\ncd", text, 0, 1), 1);
   EXPECT_EQ(linesOf(text), (std::vector<std::string>{"l0", "", "l2", "l1", "l2"}))
     << "a line feed opens an empty line and stores none of the text";
-}
-
-// Wraps 3D text measured with one font of size 10.
-class Wrapping : public ::testing::Test {
-protected:
-  void SetUp() override
-  {
-    m_owner = makeNode<TextNode>();
-    m_props = makeNode<SoGroup>();
-    auto* font = new SoFont;
-    font->size = 10.0f;
-    m_props->addChild(font);
-    m_text = makeNode<SoText3>();
-  }
-
-  float widthOf(const char* value)
-  {
-    auto* scene = makeNode<SoSeparator>();
-    scene->addChild(m_props);
-    auto* text = new SoText3;
-    text->string = value;
-    scene->addChild(text);
-    SoGetBoundingBoxAction action{SbViewportRegion()};
-    action.apply(scene);
-    scene->unref();
-    return action.getBoundingBox().getSize()[0];
-  }
-
-  int wrap(int line, float width) { return TextNode::wrap3DTextLine(m_text, line, width, m_props, m_owner); }
-
-  TextNode* m_owner = nullptr;
-  SoGroup* m_props = nullptr;
-  SoText3* m_text = nullptr;
-};
-
-TEST_F(Wrapping, breaksByCharactersAndRepeatsTheOverflowingOne)
-{
-  ASSERT_GT(widthOf("aaa"), widthOf("aa"));
-  m_text->string.setValue("aaaaaaa");
-  EXPECT_EQ(wrap(0, widthOf("aaa")), 2);
-  EXPECT_EQ(linesOf(m_text), (std::vector<std::string>{"aaa", "aaa", "a"}));
-
-  const char* lines[] = {"aaaaaaa", "after"};
-  m_text->string.setNum(0);
-  m_text->string.setValues(0, 2, lines);
-  EXPECT_EQ(wrap(0, widthOf("aaa") - 0.01f), 3);
-  EXPECT_EQ(linesOf(m_text), (std::vector<std::string>{"aaa", "aaa", "aaa", "a", "after"}));
-  EXPECT_EQ(m_props->getRefCount(), 1) << "the measure hands the properties back";
-}
-
-TEST_F(Wrapping, textThatFitsStaysAndANarrowWidthTakesOneCharacterALine)
-{
-  const char* lines[] = {"first", "abc"};
-  m_text->string.setValues(0, 2, lines);
-  EXPECT_EQ(wrap(1, widthOf("abc") + 1.0f), 1);
-  EXPECT_EQ(linesOf(m_text), (std::vector<std::string>{"first", "abc"}));
-  m_text->string.setValue("abc");
-  EXPECT_EQ(wrap(0, 0.5f), 2);
-  EXPECT_EQ(linesOf(m_text), (std::vector<std::string>{"a", "b", "c"}));
 }
 
 }
