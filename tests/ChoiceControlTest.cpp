@@ -55,8 +55,7 @@ bool showWithOverridingAuditor(ControlWindow& window, SoDialogChoice* node, Choi
   auditor.overrideWith = 0;
   node->addAuditor(&auditor);
   window.build(node);
-  window.widget.show();
-  return QTest::qWaitForWindowExposed(&window.widget);
+  return window.show();
 }
 
 std::vector<std::string> itemsOf(const SoDialogChoice* node)
@@ -294,8 +293,7 @@ TEST(DialogRadioButtons, buildsOneButtonPerChoiceInATitledBox)
   EXPECT_EQ(buttons[2]->text(), QString("Best"));
   EXPECT_EQ(buttons[2]->parentWidget(), box);
   EXPECT_EQ(checkedIndex(window), 1);
-  window.widget.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window.widget));
+  ASSERT_TRUE(window.show());
   for (QRadioButton* button : buttons)
     EXPECT_TRUE(box->contentsRect().contains(QRect(button->pos(), button->sizeHint()))) << "a whole button";
 

@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QRect>
 #include <QResizeEvent>
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -33,6 +34,13 @@ struct ControlWindow {
   {
     SbVec2i32 useSize(0, 0), size(0, 0);
     node->buildWidget(&widget, useSize, size, mode);
+  }
+  // Shows the window, so that keys and clicks reach it; false when it never
+  // came up.
+  bool show()
+  {
+    widget.show();
+    return QTest::qWaitForWindowExposed(&widget);
   }
   template <class Widget>
   Widget* find(const char* objectName) const
