@@ -40,6 +40,10 @@ public:
   }
 
   std::vector<std::string> entries;
+  // Where the entries go, so that several auditors can write one log, and
+  // the name that each entry then starts with.
+  std::vector<std::string>* log = &entries;
+  std::string name;
   SoTopLevelDialog* watched = nullptr;
   // A value that menuCheckBox writes back into the entry's state, if set.
   int stateToSet = -1;
@@ -47,9 +51,9 @@ public:
 private:
   void note(const char* kind, SoFormwright* node, const std::string& value)
   {
-    std::string entry = std::string(kind) + ":" + node->auditorID.getValue().getString() + ":" + value;
+    std::string entry = (name.empty() ? "" : name + ":") + kind + ":" + node->auditorID.getValue().getString() + ":" + value;
     if (watched)
       entry += watched->getBaseWidget() && watched->getBaseWidget()->isVisible() ? ":shown" : ":hidden";
-    entries.push_back(entry);
+    log->push_back(entry);
   }
 };
