@@ -3,7 +3,6 @@
 
 #include <SoColumnDialog.h>
 #include <SoDialogAuditor.h>
-#include <SoDialogCheckBox.h>
 #include <SoDialogLabel.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogPushButtonAuditor.h>
@@ -20,10 +19,6 @@
 
 #include <QPushButton>
 #include <QTest>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

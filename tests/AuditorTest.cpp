@@ -25,11 +25,7 @@
 #include <SoPreferences.h>
 #include <SoTabDialogAuditor.h>
 
-#include <gtest/gtest.h>
-
 #include <cctype>
-#include <string>
-#include <vector>
 
 namespace {
 

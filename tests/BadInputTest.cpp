@@ -7,7 +7,6 @@
 #include "TestSupport.h"
 
 #include <SoDialogCheckBox.h>
-#include <SoDialogComponent.h>
 #include <SoFormwright.h>
 #include <SoTopLevelDialog.h>
 
@@ -17,10 +16,6 @@
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QWidget>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

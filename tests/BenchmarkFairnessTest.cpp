@@ -13,12 +13,9 @@
 #include <QWidget>
 #include <QXmlStreamReader>
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <map>
 #include <memory>
-#include <string>
 
 namespace {
 

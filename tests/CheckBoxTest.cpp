@@ -1,5 +1,4 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoDialogCheckBox.h>
 #include <SoDialogCheckBoxAuditor.h>
@@ -7,7 +6,6 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace {
 

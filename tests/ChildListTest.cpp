@@ -5,9 +5,6 @@
 #include <SoTopLevelDialog.h>
 
 #include <Inventor/misc/SoChildList.h>
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 

@@ -1,24 +1,16 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
-#include <SoDialogAuditor.h>
 #include <SoDialogChoiceAuditor.h>
 #include <SoDialogComboBox.h>
 #include <SoDialogRadioButtons.h>
-#include <SoPreferences.h>
 
 #include <QComboBox>
-#include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPointer>
 #include <QRadioButton>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
-#include <vector>
 
 namespace {
 

@@ -1,11 +1,7 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoColumnDialog.h>
 #include <SoRowDialog.h>
-
-#include <QSpacerItem>
-#include <gtest/gtest.h>
 
 namespace {
 

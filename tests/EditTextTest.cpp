@@ -1,20 +1,13 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
-#include <SoDialogAuditor.h>
 #include <SoDialogEditText.h>
 #include <SoDialogEditTextAuditor.h>
-#include <SoPreferences.h>
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTest>
 #include <QTextEdit>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

@@ -1,5 +1,4 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoDialogLabel.h>
 #include <SoDialogPushButton.h>
@@ -8,7 +7,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace {
 

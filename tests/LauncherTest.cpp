@@ -12,10 +12,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QWidget>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

@@ -11,14 +11,8 @@
 #include "SoFormwrightClassList.h"
 
 #include <Inventor/SoInteraction.h>
-#include <Inventor/fields/SoFieldData.h>
 #include <Inventor/nodekits/SoNodeKit.h>
-#include <Inventor/nodekits/SoNodekitCatalog.h>
 #include <QWidget>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

@@ -3,7 +3,6 @@
 
 #include "ControlTestSupport.h"
 #include "EventLog.h"
-#include "TestSupport.h"
 
 #include <SoMenuPushButtonAuditor.h>
 #include <SoMenuSeparator.h>
@@ -14,13 +13,8 @@
 
 #include <QAction>
 #include <QKeySequence>
-#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

@@ -2,7 +2,6 @@
 // and the accelerator texts.
 
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoDialogCheckBoxLauncher.h>
 #include <SoDialogGroup.h>
@@ -16,12 +15,8 @@
 #include <SoTopLevelDialog.h>
 
 #include <QAction>
-#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 

@@ -10,10 +10,6 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

@@ -3,13 +3,11 @@
 
 #include "SceneTestSupport.h"
 
-#include <QColor>
 #include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include <set>
 

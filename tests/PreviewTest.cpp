@@ -7,10 +7,6 @@
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QWidget>
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 

@@ -10,7 +10,6 @@
 #include <Inventor/sensors/SoFieldSensor.h>
 #include <QPointer>
 #include <QWidget>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -9,10 +9,6 @@
 #include <Inventor/nodes/SoTranslation.h>
 
 #include <QFontMetrics>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

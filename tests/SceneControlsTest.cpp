@@ -13,11 +13,6 @@
 
 #include <QCheckBox>
 #include <QFontMetrics>
-#include <QWidget>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

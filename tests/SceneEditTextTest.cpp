@@ -8,10 +8,6 @@
 #include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoEventCallback.h>
 #include <Inventor/nodes/SoText3.h>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

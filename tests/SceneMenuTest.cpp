@@ -12,11 +12,6 @@
 #include <Inventor/details/SoNodeKitDetail.h>
 #include <Inventor/nodes/SoSwitch.h>
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 namespace {
 
 struct Push : SoMenuPushButton {

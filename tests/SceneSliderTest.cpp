@@ -7,11 +7,8 @@
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoText3.h>
-#include <gtest/gtest.h>
 
 #include <cmath>
-#include <string>
-#include <vector>
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include <SoTabDialogAuditor.h>
 
 #include <Inventor/nodes/SoSwitch.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include "SoQtSceneViewer.h"
 #include "SoTopLevelDialog.h"
 
-#include <Inventor/actions/SoHandleEventAction.h>
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoCube.h>
 #include <Inventor/nodes/SoEventCallback.h>
@@ -19,9 +18,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <gtest/gtest.h>
-
-#include <vector>
 
 using Formwright::SoQtEventTranslator;
 using Formwright::SoQtSceneViewer;

@@ -1,11 +1,9 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoDialogCustom.h>
 #include <SoDialogSeparator.h>
 
 #include <QLabel>
-#include <gtest/gtest.h>
 
 namespace {
 

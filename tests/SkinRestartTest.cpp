@@ -2,9 +2,7 @@
 // and started between, as an application that restarts both does.
 
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
-#include <SoDialogComponent.h>
 #include <SoFormwright.h>
 #include <SoPreferences.h>
 #include <SoTopLevelDialog.h>
@@ -19,7 +17,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -20,7 +20,6 @@
 #include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
 
-#include <Inventor/SoPath.h>
 #include <Inventor/actions/SoGetMatrixAction.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/lists/SoNodeList.h>
@@ -29,10 +28,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 

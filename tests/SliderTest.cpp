@@ -1,22 +1,17 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
-#include <SoDialogAuditor.h>
 #include <SoDialogIntegerSlider.h>
 #include <SoDialogIntegerSliderAuditor.h>
 #include <SoDialogRealSlider.h>
 #include <SoDialogRealSliderAuditor.h>
-#include <SoPreferences.h>
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QOpenGLContext>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include <cmath>
-#include <vector>
 
 namespace {
 

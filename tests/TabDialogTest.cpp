@@ -3,7 +3,6 @@
 // only when the person makes them, and the room that the tabs take.
 
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoDialogAuditor.h>
 #include <SoDialogLabel.h>
@@ -16,9 +15,6 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 

@@ -3,15 +3,12 @@
 
 #include "TestSupport.h"
 
-#include <SoDialogLabel.h>
 #include <SoTopLevelDialog.h>
 
 #include <QFontMetrics>
 #include <QLabel>
-#include <gtest/gtest.h>
 
 #include <ostream>
-#include <string>
 
 namespace {
 

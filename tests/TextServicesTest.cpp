@@ -8,10 +8,8 @@
 #include <Inventor/nodes/SoText3.h>
 #include <QFontMetrics>
 #include <QWidget>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <vector>
 
 namespace {
 

@@ -5,8 +5,6 @@
 #include "SoPreferences.h"
 #include "SoSFFilePathString.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <memory>
 

@@ -1,5 +1,4 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoChildSizeTable.h>
 #include <SoColumnDialog.h>
@@ -12,7 +11,6 @@
 
 #include <QTabWidget>
 #include <QTextEdit>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -379,7 +377,6 @@ TEST(WindowLayout, rowsAndColumnsBuildTheirFramesLayoutsAndEnabledState)
   row->enable = TRUE;
   EXPECT_EQ(SbVec2i32(on->enabledState, off->enabledState), SbVec2i32(1, 1));
 }
-
 
 }
 
