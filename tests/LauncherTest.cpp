@@ -2,20 +2,36 @@
 // hiding them, and the launchers' place in the auditor walks.
 
 #include "EventLog.h"
+#include "SoPreferences.h"
 #include "TestSupport.h"
 
 #include <SoDialogCheckBoxLauncher.h>
+#include <SoDialogLabel.h>
 #include <SoDialogPushButtonLauncher.h>
+#include <SoMenuCheckBoxLauncher.h>
+#include <SoMenuPushButtonLauncher.h>
 #include <SoRowDialog.h>
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
+
+#include <functional>
 
 namespace {
 
-const char* const kWindow = R"(#Inventor V2.1 ascii
+const char* const kMenuWindow = R"(#Inventor V2.1 ascii
 TopLevelDialog {
   RowDialog {
     auditorID "row"
@@ -40,7 +56,7 @@ class Launchers : public ::testing::Test {
 protected:
   void SetUp() override
   {
-    SoSeparator* root = readScene(kWindow);
+    SoSeparator* root = readScene(kMenuWindow);
     ASSERT_NE(root, nullptr);
     window = static_cast<SoTopLevelDialog*>(root->getChild(0));
     row = static_cast<SoRowDialog*>(window->searchForAuditorId("row"));
@@ -143,6 +159,191 @@ TEST_F(Launchers, searchEntersTheLaunchersDialogs)
   EXPECT_EQ(window->searchForAuditorId("layers"), layers);
   EXPECT_EQ(row->searchForAuditorId("run")->getParent(), tools);
   EXPECT_EQ(options->searchForAuditorId("options"), nullptr) << "the launcher itself is not compared";
+}
+
+// Menu entries that open dialogs or ask for a file. The file dialog is Qt's
+// own, answered from inside its event loop as a person would answer it.
+
+const char* const kWindow = R"(#Inventor V2.1 ascii
+TopLevelDialog {
+  MenuBar {
+    MenuPopup {
+      label "Window"
+      MenuPushButtonLauncher {
+        label "Open both"
+        auditorID "both"
+        TopLevelDialog { label "First" auditorID "first" DialogLabel { auditorID "inFirst" } }
+        TopLevelDialog { label "Second" auditorID "second" }
+      }
+      MenuCheckBoxLauncher {
+        label "Palette"
+        auditorID "palette"
+        TopLevelDialog { label "Palette" auditorID "paletteDialog" }
+      }
+      MenuFileSelection {
+        label "Open..."
+        auditorID "open"
+        title "Open a scene"
+        filter [ "*.scn", "Scenic file", "*.iv" ]
+        fileDirectory "$FWT_TEST_FILES"
+      }
+    }
+  }
+}
+)";
+
+class MenuLaunchers : public ::testing::Test {
+protected:
+  void SetUp() override
+  {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    SoSeparator* root = readScene(kWindow);
+    ASSERT_NE(root, nullptr);
+    window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    both = static_cast<SoMenuPushButtonLauncher*>(window->searchForAuditorId("both"));
+    palette = static_cast<SoMenuCheckBoxLauncher*>(window->searchForAuditorId("palette"));
+    open = static_cast<SoMenuFileSelection*>(window->searchForAuditorId("open"));
+    ASSERT_TRUE(both && palette && open);
+    first = static_cast<SoTopLevelDialog*>(both->getChild(0));
+    second = static_cast<SoTopLevelDialog*>(both->getChild(1));
+    paletteDialog = static_cast<SoTopLevelDialog*>(palette->getChild(0));
+    window->addAuditor(&recorder);
+    window->buildDialog(nullptr, 0);
+    auto* bar = qobject_cast<QMenuBar*>(window->getBaseWidget()->layout()->menuBar());
+    ASSERT_NE(bar, nullptr);
+    menu = bar->actions()[0]->menu();
+    ASSERT_EQ(menu->actions().size(), 3);
+  }
+
+  static bool shown(SoTopLevelDialog* dialog)
+  {
+    return dialog->getBaseWidget() && dialog->getBaseWidget()->isVisible();
+  }
+
+  // Types a path into the file dialog's name field and presses its Open or
+  // Save button.
+  static void type(QFileDialog* dialog, const QString& path)
+  {
+    auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+    ASSERT_NE(name, nullptr);
+    name->setText(path);
+    auto* buttons = dialog->findChild<QDialogButtonBox*>("buttonBox");
+    ASSERT_NE(buttons, nullptr);
+    const bool opens = dialog->acceptMode() == QFileDialog::AcceptOpen;
+    QPushButton* confirm = buttons->button(opens ? QDialogButtonBox::Open : QDialogButtonBox::Save);
+    ASSERT_NE(confirm, nullptr);
+    confirm->click();
+  }
+
+  // Triggers the file entry and lets `answer` deal with the dialog that it
+  // opens, as soon as the dialog is on screen.
+  std::string chooseFile(const std::function<void(QFileDialog*)>& answer)
+  {
+    QString seen;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+      QFileDialog* dialog = nullptr;
+      for (QWidget* candidate : QApplication::topLevelWidgets())
+        if (candidate->isVisible() && qobject_cast<QFileDialog*>(candidate))
+          dialog = static_cast<QFileDialog*>(candidate);
+      if (!dialog)
+        return;
+      poll.stop();
+      seen = dialog->windowTitle() + "|" + dialog->directory().absolutePath() + "|" +
+             (dialog->acceptMode() == QFileDialog::AcceptOpen ? "open" : "save");
+      answer(dialog);
+    });
+    poll.start(10);
+    menu->actions()[2]->trigger();
+    return seen.toStdString();
+  }
+
+  EventLog recorder;
+  std::vector<std::string>& log = recorder.entries;
+  SoTopLevelDialog* window = nullptr;
+  SoMenuPushButtonLauncher* both = nullptr;
+  SoMenuCheckBoxLauncher* palette = nullptr;
+  SoMenuFileSelection* open = nullptr;
+  SoTopLevelDialog* first = nullptr;
+  SoTopLevelDialog* second = nullptr;
+  SoTopLevelDialog* paletteDialog = nullptr;
+  QMenu* menu = nullptr;
+};
+
+TEST_F(MenuLaunchers, pushButtonOpensEveryDialogAfterTheAuditors)
+{
+  EXPECT_EQ(first->getBaseWidget(), nullptr) << "nothing is built before the first choice";
+  recorder.watched = first;
+  menu->actions()[0]->trigger();
+  EXPECT_EQ(log, std::vector<std::string>{"push:both::hidden"});
+  EXPECT_TRUE(shown(first));
+  EXPECT_TRUE(shown(second));
+  EXPECT_EQ(first->getParent(), both);
+}
+
+TEST_F(MenuLaunchers, checkBoxShowsAndHidesItsDialogAfterTheAuditors)
+{
+  recorder.watched = paletteDialog;
+  menu->actions()[1]->trigger();
+  EXPECT_TRUE(shown(paletteDialog));
+  EXPECT_TRUE(menu->actions()[1]->isChecked());
+  menu->actions()[1]->trigger();
+  EXPECT_FALSE(shown(paletteDialog));
+  EXPECT_EQ(log, (std::vector<std::string>{"menuCheck:palette:TRUE:hidden", "menuCheck:palette:FALSE:shown"}));
+
+}
+
+TEST_F(MenuLaunchers, searchGoesThroughMenusIntoLaunchedDialogs)
+{
+  EXPECT_TRUE(window->searchForAuditorId("inFirst")->isOfType(SoDialogLabel::getClassTypeId()));
+  EXPECT_EQ(window->searchForAuditorId("paletteDialog"), paletteDialog);
+  EXPECT_EQ(both->searchForAuditorId("second"), second);
+}
+
+class FileSelection : public MenuLaunchers {
+protected:
+  void SetUp() override
+  {
+    ASSERT_TRUE(files.isValid());
+    ASSERT_TRUE(QDir(files.path()).mkdir("scenes"));
+    QFile scene(files.filePath("scenes/robot.scn"));
+    ASSERT_TRUE(scene.open(QIODevice::WriteOnly));
+    scene.close();
+    SoPreferences::setString("FWT_TEST_FILES", files.path().toLocal8Bit().constData());
+    MenuLaunchers::SetUp();
+  }
+  void TearDown() override { SoPreferences::unsetString("FWT_TEST_FILES"); }
+
+  QTemporaryDir files;
+};
+
+TEST_F(FileSelection, chosenFileIsSplitIntoDirectoryAndName)
+{
+  const QString scenes = files.filePath("scenes");
+  const std::string seen = chooseFile([&](QFileDialog* dialog) { type(dialog, scenes + "/robot.scn"); });
+  EXPECT_EQ(seen, "Open a scene|" + QDir(files.path()).absolutePath().toStdString() + "|open")
+    << "the variable is expanded";
+  EXPECT_EQ(open->filename.getValue(), SbString("robot.scn"));
+  EXPECT_EQ(open->fileDirectory.getValue(), SbString(scenes.toLocal8Bit().constData()));
+  EXPECT_EQ(log, std::vector<std::string>{"file:open:" + scenes.toStdString() + "|robot.scn"})
+    << "heard as a file selection and not as a push button";
+}
+
+TEST_F(FileSelection, cancelEmptiesTheNameAndIsHeardToo)
+{
+  open->filename = "old.scn";
+  chooseFile([](QFileDialog* dialog) { dialog->reject(); });
+  EXPECT_EQ(open->filename.getValue(), SbString(""));
+  EXPECT_EQ(open->fileDirectory.getValue(), SbString("$FWT_TEST_FILES"));
+  EXPECT_EQ(log, std::vector<std::string>{"file:open:$FWT_TEST_FILES|"});
+}
+
+TEST_F(FileSelection, saveModeAsksForANewFile)
+{
+  open->mode = SoMenuFileSelection::SAVE;
+  const std::string seen = chooseFile([&](QFileDialog* dialog) { type(dialog, files.filePath("new.scn")); });
+  EXPECT_EQ(seen.substr(seen.size() - 5), "|save") << seen;
+  EXPECT_EQ(open->filename.getValue(), SbString("new.scn"));
 }
 
 }
