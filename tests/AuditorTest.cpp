@@ -1,5 +1,4 @@
 #include "EventLog.h"
-#include "SoPreferences.h"
 #include "TestSupport.h"
 
 #include <SoColumnDialog.h>
@@ -48,62 +47,40 @@ class DefaultAuditor : public SoDialogAuditor {};
 TEST(DialogAuditor, defaultBodiesReportUnheardControlsOnlyWhenAsked)
 {
   DefaultAuditor auditor;
-  SoDialogPushButton* button = makeNode<SoDialogPushButton>();
-  button->label = "Name:";
-  button->buttonLabel = "Apply";
+  SoSeparator* nodes = readScene("#Inventor V2.1 ascii\nSeparator {\n"
+                                 "DialogPushButton { label \"Name:\" buttonLabel \"Apply\" }\n"
+                                 "DialogCheckBox { label \"Sound\" onString \"Loud\" }\n"
+                                 "MenuPushButton { label \"Open...\" }\n"
+                                 "DialogComboBox { label \"Units\" items [\"mm\", \"in\"] selectedItem 1 }\n"
+                                 "DialogRadioButtons { label \"Quality\" items [\"Draft\", \"Best\"] selectedItem 4 }\n"
+                                 "DialogIntegerSlider { label \"Copies\" max 10 value 7 }\n"
+                                 "DialogRealSlider { label \"Scale\" value 0.25 format \"%.2f\" }\n"
+                                 "DialogEditText { label \"Name:\" editText \"Ada\" }\n"
+                                 "MenuCheckBox { label \"Off\" onString \"On\" }\n"
+                                 "MenuRadioButtons { items [\"Small\", \"Medium\"] selectedItem 1 }\n"
+                                 "MenuFileSelection { title \"Open a scene\" } }\n");
+  ASSERT_NE(nodes, nullptr);
+  const auto node = [&](int i) { return nodes->getChild(i); };
   {
     DebugMessages messages;
-    auditor.dialogPushButton(button);
+    auditor.dialogPushButton(static_cast<SoDialogPushButton*>(node(0)));
     EXPECT_EQ(messages.count(), 0u) << "silent unless the preference is set";
   }
 
-  SoDialogCheckBox* box = makeNode<SoDialogCheckBox>();
-  box->label = "Sound";
-  box->onString = "Loud";
-  SoMenuPushButton* entry = makeNode<SoMenuPushButton>();
-  entry->label = "Open...";
-  SoDialogComboBox* combo = makeNode<SoDialogComboBox>();
-  combo->label = "Units";
-  combo->items.setValues(0, 2, std::vector<const char*>{"mm", "in"}.data());
-  combo->selectedItem = 1;
-  SoDialogRadioButtons* radio = makeNode<SoDialogRadioButtons>();
-  radio->label = "Quality";
-  radio->items.setValues(0, 2, std::vector<const char*>{"Draft", "Best"}.data());
-  radio->selectedItem = 4;
-  SoDialogIntegerSlider* copies = makeNode<SoDialogIntegerSlider>();
-  copies->label = "Copies";
-  copies->max = 10;
-  copies->value = 7;
-  SoDialogRealSlider* scale = makeNode<SoDialogRealSlider>();
-  scale->label = "Scale";
-  scale->value = 0.25f;
-  scale->format = "%.2f";
-  SoDialogEditText* edit = makeNode<SoDialogEditText>();
-  edit->label = "Name:";
-  edit->editText = "Ada";
-  SoMenuCheckBox* check = makeNode<SoMenuCheckBox>();
-  check->label = "Off";
-  check->onString = "On";
-  SoMenuRadioButtons* zoom = makeNode<SoMenuRadioButtons>();
-  zoom->items.setValues(0, 2, std::vector<const char*>{"Small", "Medium"}.data());
-  zoom->selectedItem = 1;
-  SoMenuFileSelection* file = makeNode<SoMenuFileSelection>();
-  file->title = "Open a scene";
-
   SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
   DebugMessages messages;
-  auditor.dialogPushButton(button);
-  auditor.dialogCheckBox(box);
-  auditor.menuPushButton(entry);
+  auditor.dialogPushButton(static_cast<SoDialogPushButton*>(node(0)));
+  auditor.dialogCheckBox(static_cast<SoDialogCheckBox*>(node(1)));
+  auditor.menuPushButton(static_cast<SoMenuPushButton*>(node(2)));
   auditor.tabDialog(nullptr);
-  auditor.dialogComboBox(combo);
-  auditor.dialogRadioButtons(radio);
-  auditor.dialogIntegerSlider(copies);
-  auditor.dialogRealSlider(scale);
-  auditor.dialogEditText(edit);
-  auditor.menuCheckBox(check);
-  auditor.menuRadioButtons(zoom);
-  auditor.menuFileSelection(file);
+  auditor.dialogComboBox(static_cast<SoDialogComboBox*>(node(3)));
+  auditor.dialogRadioButtons(static_cast<SoDialogRadioButtons*>(node(4)));
+  auditor.dialogIntegerSlider(static_cast<SoDialogIntegerSlider*>(node(5)));
+  auditor.dialogRealSlider(static_cast<SoDialogRealSlider*>(node(6)));
+  auditor.dialogEditText(static_cast<SoDialogEditText*>(node(7)));
+  auditor.menuCheckBox(static_cast<SoMenuCheckBox*>(node(8)));
+  auditor.menuRadioButtons(static_cast<SoMenuRadioButtons*>(node(9)));
+  auditor.menuFileSelection(static_cast<SoMenuFileSelection*>(node(10)));
   SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
 
   // The menu entries' reports may carry more lines after the fields shown.
@@ -140,28 +117,23 @@ TEST(DialogAuditor, defaultBodiesReportUnheardControlsOnlyWhenAsked)
 
 TEST(AuditorTypes, registeredUnderTheirNamesButTheTabDialogsStaysBad)
 {
-  const struct {
-    SoType type;
-    const char* name;
-    const char* parent;
-  } auditors[] = {
-    {SoAuditor::getClassTypeId(), "Auditor", "BadType"},
-    {SoDialogAuditor::getClassTypeId(), "SoDialogAuditor", "Auditor"},
-    {SoDialogPushButtonAuditor::getClassTypeId(), "SoDialogPushButtonAuditor", "Auditor"},
-    {SoDialogCheckBoxAuditor::getClassTypeId(), "SoDialogCheckBoxAuditor", "Auditor"},
-    {SoDialogChoiceAuditor::getClassTypeId(), "SoDialogChoiceAuditor", "Auditor"},
-    {SoDialogEditTextAuditor::getClassTypeId(), "SoDialogEditTextAuditor", "Auditor"},
-    {SoDialogIntegerSliderAuditor::getClassTypeId(), "SoDialogIntegerSliderAuditor", "Auditor"},
-    {SoDialogRealSliderAuditor::getClassTypeId(), "SoDialogRealSliderAuditor", "Auditor"},
-    {SoMenuCheckBoxAuditor::getClassTypeId(), "SoMenuCheckBoxAuditor", "Auditor"},
-    {SoMenuFileSelectionAuditor::getClassTypeId(), "SoMenuFileSelectionAuditor", "Auditor"},
-    {SoMenuPushButtonAuditor::getClassTypeId(), "SoMenuPushButtonAuditor", "Auditor"},
-    {SoMenuRadioButtonsAuditor::getClassTypeId(), "SoMenuRadioButtonsAuditor", "Auditor"},
-  };
-  for (const auto& auditor : auditors) {
-    EXPECT_EQ(SoType::fromName(auditor.name), auditor.type) << auditor.name;
-    EXPECT_STREQ(auditor.type.getParent().getName().getString(), auditor.parent) << auditor.name;
-  }
+  EXPECT_EQ(SoType::fromName("Auditor"), SoAuditor::getClassTypeId());
+  EXPECT_TRUE(SoAuditor::getClassTypeId().getParent().isBad());
+#define FORMWRIGHT_CHECK(T)                                                                                        \
+  EXPECT_EQ(SoType::fromName(#T), T::getClassTypeId()) << #T;                                                      \
+  EXPECT_EQ(T::getClassTypeId().getParent(), SoAuditor::getClassTypeId()) << #T;
+  FORMWRIGHT_CHECK(SoDialogAuditor)
+  FORMWRIGHT_CHECK(SoDialogPushButtonAuditor)
+  FORMWRIGHT_CHECK(SoDialogCheckBoxAuditor)
+  FORMWRIGHT_CHECK(SoDialogChoiceAuditor)
+  FORMWRIGHT_CHECK(SoDialogEditTextAuditor)
+  FORMWRIGHT_CHECK(SoDialogIntegerSliderAuditor)
+  FORMWRIGHT_CHECK(SoDialogRealSliderAuditor)
+  FORMWRIGHT_CHECK(SoMenuCheckBoxAuditor)
+  FORMWRIGHT_CHECK(SoMenuFileSelectionAuditor)
+  FORMWRIGHT_CHECK(SoMenuPushButtonAuditor)
+  FORMWRIGHT_CHECK(SoMenuRadioButtonsAuditor)
+#undef FORMWRIGHT_CHECK
   EXPECT_TRUE(SoTabDialogAuditor::getClassTypeId().isBad());
   EXPECT_TRUE(SoType::fromName("SoTabDialogAuditor").isBad());
   EXPECT_EQ(DefaultAuditor().getTypeId(), SoDialogAuditor::getClassTypeId()) << "a derived auditor has no type of its own";
