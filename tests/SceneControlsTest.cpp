@@ -3,18 +3,26 @@
 #include <SoDialogAuditor.h>
 #include <SoDialogCheckBox.h>
 #include <SoDialogComboBox.h>
+#include <SoDialogEditText.h>
+#include <SoDialogEditTextAuditor.h>
+#include <SoDialogIntegerSlider.h>
 #include <SoDialogLabel.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
+#include <SoDialogRealSlider.h>
+#include <SoRowDialog.h>
 
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/nodekits/SoBaseKit.h>
+#include <Inventor/nodes/SoEventCallback.h>
 #include <Inventor/nodes/SoSwitch.h>
 #include <Inventor/nodes/SoText3.h>
 #include <Inventor/nodes/SoTranslation.h>
 
 #include <QCheckBox>
 #include <QFontMetrics>
+
+#include <cmath>
 
 namespace {
 
@@ -321,6 +329,333 @@ TEST_F(SceneComboBox, itemsChangingAtRunTimeGetBlocksAndBadValuesAreMended)
   scene.click(frameX, itemY(0));
   EXPECT_EQ(combo->shown(), "");
   EXPECT_EQ(heard.events, std::vector<std::string>{"choice 0"});
+}
+
+// Sliders with the shown number in reach.
+template <class Base>
+struct Exposed : Base {
+  using SoDialogSlider::editText3;
+};
+using IntSlider = Exposed<SoDialogIntegerSlider>;
+using RealSlider = Exposed<SoDialogRealSlider>;
+
+using Values = std::vector<float>;
+using Key = SoKeyboardEvent;
+
+// One slider from `min` to `max` in a dialog in the scene; the fixture hears
+// the values that its auditors are told.
+template <class Slider>
+struct SliderScene : SoDialogAuditor {
+  Scene scene;
+  SoTopLevelDialog* dialog = makeNode<SoTopLevelDialog>();
+  Slider* slider = new Slider;
+  Values heard;
+  float grabbedAt = 0.0f;
+
+  SliderScene(int min, int max)
+  {
+    slider->min = min;
+    slider->max = max;
+    slider->value = min;
+    slider->width = 240;
+    dialog->addChild(slider);
+    dialog->addAuditor(this);
+    scene.root->addChild(dialog);
+    buildInScene(dialog);
+  }
+  void dialogIntegerSlider(SoDialogIntegerSlider* node) override { heard.push_back(node->value.getValue()); }
+  void dialogRealSlider(SoDialogRealSlider* node) override { heard.push_back(node->value.getValue()); }
+  // Where a part of the slider lies in the scene.
+  SbBox3f box(const char* part)
+  {
+    SoSearchAction search;
+    search.setNode(static_cast<SoSFNode*>(slider->getField(part))->getValue());
+    SoBaseKit::setSearchingChildren(TRUE);
+    search.apply(scene.root);
+    SoBaseKit::setSearchingChildren(FALSE);
+    SoGetBoundingBoxAction measure{SbViewportRegion()};
+    measure.apply(search.getPath());
+    return measure.getBoundingBox();
+  }
+  float cursorX() { return box("cursorSep").getCenter()[0]; }
+  // The cursor's centre at `position`: it travels the bar less its width, 10.
+  float cursorAt(float position)
+  {
+    const SbBox3f bar = box("frameSep");
+    return bar.getMin()[0] + 5 + position * (bar.getSize()[0] - 10);
+  }
+  std::string text() const { return slider->editText3->string[0].getString(); }
+  void type(std::initializer_list<Key::Key> keys)
+  {
+    for (Key::Key key : keys)
+      scene.key(key);
+  }
+  void clickValueBox() { scene.click(box("edtFrmSep").getCenter()); }
+  // Presses on the cone and moves it to `x`, held until `release`.
+  void dragCursorTo(float x)
+  {
+    const SbVec3f cone = box("cursorSep").getCenter();
+    grabbedAt = cone[1];
+    scene.button(SoButtonEvent::DOWN, cone[0], grabbedAt);
+    scene.move(std::round(x), grabbedAt);
+  }
+  void release() { scene.button(SoButtonEvent::UP, cursorX(), grabbedAt); }
+};
+
+TEST(SceneSlider, aPressOnTheBarPutsTheCursorsCentreThereClampedAndFires)
+{
+  SliderScene<IntSlider> at(0, 10);
+  const SbBox3f bar = at.box("frameSep");
+  // Above the cone, which stands on the bar's lower half.
+  const float y = bar.getCenter()[1] + 5;
+  const float x = std::round(at.cursorAt(0.3f));
+  at.scene.click(x, y);
+  EXPECT_NEAR(at.cursorX(), x, 1.0f);
+  EXPECT_EQ(at.text(), "3");
+  at.scene.click(bar.getMax()[0] - 1, y);
+  EXPECT_NEAR(at.cursorX(), at.cursorAt(1), 0.01f);
+  at.scene.click(bar.getMin()[0] + 1, y);
+  EXPECT_NEAR(at.cursorX(), at.cursorAt(0), 0.01f);
+  EXPECT_EQ(at.heard, (Values{3, 10, 0}));
+}
+
+TEST(SceneSlider, typedDigitsMoveTheCursorOnlyAtReturnAndAnIntegerBoxRefusesTheMinus)
+{
+  SliderScene<IntSlider> at(0, 10);
+  const float start = at.cursorX();
+  at.clickValueBox();
+  at.type({Key::BACKSPACE, Key::NUMBER_7, Key::MINUS});
+  EXPECT_EQ(at.text(), "7");
+  EXPECT_EQ(at.cursorX(), start);
+  EXPECT_TRUE(at.heard.empty());
+  at.type({Key::RETURN, Key::NUMBER_1});
+  EXPECT_EQ(at.slider->value.getValue(), 7);
+  EXPECT_NEAR(at.cursorX(), at.cursorAt(0.7f), 0.01f);
+  EXPECT_EQ(at.text(), "7") << "Return ends the editing";
+  EXPECT_EQ(at.heard, Values{7});
+  at.clickValueBox();
+  at.type({Key::NUMBER_2});
+  at.dragCursorTo(at.cursorX() + 1);
+  at.release();
+  at.type({Key::NUMBER_3, Key::RETURN});
+  EXPECT_EQ(at.slider->value.getValue(), 7) << "a drag of the cursor ends an edit untaken";
+}
+
+TEST(SceneSlider, theToggleFlipsContinuousTriggerAtReleaseSilentlyAndHidingItLengthensTheBar)
+{
+  SliderScene<IntSlider> at(0, 10);
+  const SbVec3f toggle = at.box("checkSep").getCenter();
+  at.scene.button(SoButtonEvent::DOWN, toggle[0], toggle[1]);
+  EXPECT_FALSE(at.slider->continuousTrigger.getValue());
+  at.scene.button(SoButtonEvent::UP, toggle[0], toggle[1]);
+  EXPECT_TRUE(at.slider->continuousTrigger.getValue());
+
+  // Followed while dragged, so the release adds nothing.
+  at.dragCursorTo(at.cursorAt(0.5f));
+  EXPECT_EQ(at.heard, Values{5});
+  at.release();
+
+  at.scene.click(toggle[0], toggle[1]);
+  EXPECT_FALSE(at.slider->continuousTrigger.getValue());
+  at.dragCursorTo(at.cursorAt(0.2f));
+  EXPECT_EQ(at.text(), "2");
+  EXPECT_EQ(at.heard, Values{5}) << "the value waits for the release";
+  at.release();
+  EXPECT_EQ(at.heard, (Values{5, 2}));
+
+  const SbBox3f shown = at.box("frameSep");
+  at.slider->toggleVisible = FALSE;
+  const SbBox3f hidden = at.box("frameSep");
+  EXPECT_NEAR(hidden.getSize()[0] - shown.getSize()[0], 18, 0.01f);
+  EXPECT_NEAR(hidden.getMax()[0], shown.getMax()[0], 0.01f) << "the value box keeps its place";
+}
+
+TEST(SceneSlider, badInputGivesNumbersNeverNaN)
+{
+  SliderScene<IntSlider> equal(5, 5);
+  EXPECT_EQ(equal.text(), "5") << "equal limits show min";
+  const SbBox3f bar = equal.box("frameSep");
+  equal.scene.click(bar.getCenter()[0], bar.getCenter()[1] + 5);
+  EXPECT_EQ(equal.slider->value.getValue(), 5);
+  EXPECT_TRUE(std::isfinite(equal.cursorX()));
+  equal.clickValueBox();
+  equal.type({Key::BACKSPACE, Key::BACKSPACE, Key::RETURN});
+  EXPECT_EQ(equal.slider->value.getValue(), 0) << "an empty box reads as 0";
+
+  SliderScene<RealSlider> real(0, 10);
+  real.clickValueBox();
+  real.type({Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::MINUS,
+             Key::NUMBER_1, Key::PERIOD, Key::NUMBER_5, Key::A, Key::LEFT_ARROW, Key::LEFT_SHIFT});
+  EXPECT_EQ(real.text(), "1.5") << "a lone minus and a letter make no number";
+  real.type({Key::RETURN});
+  EXPECT_FLOAT_EQ(real.slider->value.getValue(), 1.5f);
+  EXPECT_NEAR(real.cursorX(), real.cursorAt(0.15f), 0.01f);
+  EXPECT_EQ(real.text(), "1.500");
+}
+
+class HeardTexts : public SoDialogEditTextAuditor {
+public:
+  std::vector<std::string> heard;
+  void dialogEditText(SoDialogEditText* node) override { heard.push_back(node->editText.getValue().getString()); }
+};
+
+// An edit text and a read-only one side by side in a row of a window, so
+// that a key crosses three nested interface nodes; a callback behind the
+// window counts the key presses that nobody took.
+struct EditScene {
+  Scene scene;
+  SoTopLevelDialog* dialog = makeNode<SoTopLevelDialog>();
+  SoDialogEditText* edit = makeNode<SoDialogEditText>();
+  SoDialogEditText* other = makeNode<SoDialogEditText>();
+  HeardTexts auditor;
+  int untakenKeys = 0;
+  SbVec3f editAt, otherAt;
+
+  explicit EditScene(bool trigOnEnter, bool multiLine = false, int width = 120)
+  {
+    auto* row = makeNode<SoRowDialog>();
+    edit->trigOnEnter = trigOnEnter;
+    edit->multiLine = multiLine;
+    edit->labelVisibility = FALSE;
+    edit->width = width;
+    other->width = width;
+    edit->height = multiLine ? 80 : 30;
+    other->editable = FALSE;
+    row->addChild(edit);
+    row->addChild(other);
+    dialog->addChild(row);
+    edit->addAuditor(&auditor);
+    scene.root->addChild(dialog);
+    auto* behind = new SoEventCallback;
+    behind->addEventCallback(SoKeyboardEvent::getClassTypeId(), &EditScene::countUntaken, this);
+    scene.root->addChild(behind);
+    buildInScene(dialog);
+    // Before any text, which may reach out of the box.
+    editAt = centreOf(edit);
+    otherAt = centreOf(other);
+  }
+  // The nodes live on, and the edit text may still hold the keyboard.
+  ~EditScene() { edit->removeAuditor(&auditor); }
+  EditScene(const EditScene&) = delete;
+  EditScene& operator=(const EditScene&) = delete;
+  static void countUntaken(void* data, SoEventCallback* callback)
+  {
+    if (SoKeyboardEvent::isKeyPressEvent(callback->getEvent(), SoKeyboardEvent::ANY))
+      ++static_cast<EditScene*>(data)->untakenKeys;
+  }
+  void type(std::initializer_list<SoKeyboardEvent::Key> keys)
+  {
+    for (SoKeyboardEvent::Key key : keys)
+      scene.key(key);
+  }
+  std::string text() const { return edit->editText.getValue().getString(); }
+};
+
+// The text drawn in the box: the last text of the control.
+SoText3* shownText(SoDialogEditText* node)
+{
+  SoSearchAction search;
+  search.setType(SoText3::getClassTypeId());
+  search.setInterest(SoSearchAction::LAST);
+  SoBaseKit::setSearchingChildren(TRUE);
+  search.apply(node);
+  SoBaseKit::setSearchingChildren(FALSE);
+  return static_cast<SoText3*>(fullPathNodes(search.getPath()).back());
+}
+
+TEST(SceneEditText, keysGoToTheTailOncePerPressAndReturnCommits)
+{
+  EditScene at(true);
+  at.type({SoKeyboardEvent::A});
+  EXPECT_EQ(at.text(), "") << "no key is taken before a press on the box";
+  EXPECT_EQ(at.untakenKeys, 1);
+
+  at.scene.click(at.editAt);
+  at.type({SoKeyboardEvent::A, SoKeyboardEvent::B, SoKeyboardEvent::NUMBER_1, SoKeyboardEvent::PAD_7});
+  EXPECT_EQ(at.text(), "ab17") << "the keypad's navigation keys type their digits";
+  at.type({SoKeyboardEvent::LEFT_ARROW, SoKeyboardEvent::LEFT_SHIFT});
+  EXPECT_EQ(at.text(), "ab17");
+  EXPECT_EQ(at.untakenKeys, 3) << "keys that type nothing go on";
+  at.type({SoKeyboardEvent::BACKSPACE});
+  at.scene.key(SoKeyboardEvent::RETURN, true);
+  EXPECT_EQ(at.text(), "ab1\n");
+  EXPECT_TRUE(at.auditor.heard.empty()) << "only Return or leaving tells";
+
+  at.type({SoKeyboardEvent::RETURN, SoKeyboardEvent::C});
+  EXPECT_EQ(at.auditor.heard, std::vector<std::string>{"ab1\n"});
+  EXPECT_EQ(at.text(), "ab1\n") << "Return ends the editing";
+
+  // A press on another control commits as Return does.
+  at.scene.click(at.editAt);
+  at.type({SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::Q});
+  at.scene.click(at.otherAt);
+  at.type({SoKeyboardEvent::X});
+  EXPECT_EQ(at.auditor.heard, (std::vector<std::string>{"ab1\n", "ab1q"}));
+  EXPECT_EQ(at.text(), "ab1q");
+  EXPECT_EQ(at.other->editText.getValue(), "") << "a read-only box takes no key";
+}
+
+TEST(SceneEditText, withoutTrigOnEnterEveryKeyTells)
+{
+  EditScene at(false);
+  at.scene.click(at.editAt);
+  at.type({SoKeyboardEvent::X, SoKeyboardEvent::Y, SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::RETURN});
+  EXPECT_EQ(at.auditor.heard, (std::vector<std::string>{"x", "xy", "x"}));
+}
+
+float measuredWidth(const std::string& text)
+{
+  auto* measured = new SoSeparator;
+  measured->ref();
+  measured->addChild(SoNode::getByName("DialogTextProperties"));
+  auto* line = new SoText3;
+  line->string = text.c_str();
+  measured->addChild(line);
+  SoGetBoundingBoxAction box{SbViewportRegion()};
+  box.apply(measured);
+  measured->unref();
+  return box.getBoundingBox().getSize()[0];
+}
+
+TEST(SceneEditText, aLongLineWrapsRepeatingTheCharacterThatOverflows)
+{
+  EditScene at(true, true);
+  at.scene.click(at.editAt);
+  const std::string typed = "abcdefghijklmnopqrstuvwxyz";
+  for (char c : typed)
+    at.scene.key(static_cast<SoKeyboardEvent::Key>(SoKeyboardEvent::A + (c - 'a')));
+  ASSERT_EQ(at.text(), typed);
+
+  // The box less its border, scroll bar and insets.
+  const float room = static_cast<float>(at.edit->width.getValue() - 6 - 14 - 8);
+  size_t end = 1;
+  while (end < typed.size() && measuredWidth(typed.substr(0, end)) < room)
+    ++end;
+  ASSERT_LT(end, typed.size()) << "the line must be long enough to wrap";
+  const size_t next = measuredWidth(typed.substr(0, end)) > room ? end - 1 : end;
+  const SoMFString& lines = shownText(at.edit)->string;
+  ASSERT_GE(lines.getNum(), 2);
+  EXPECT_EQ(std::string(lines[0].getString()), typed.substr(0, end));
+  EXPECT_EQ(lines[1].getString()[0], typed[next]);
+
+  at.scene.key(SoKeyboardEvent::RETURN, true);
+  at.type({SoKeyboardEvent::Z});
+  EXPECT_EQ(std::string(lines[lines.getNum() - 1].getString()), "z") << "Shift+Return opens a line";
+  EXPECT_EQ(at.text(), typed + "\nz");
+}
+
+TEST(SceneEditText, aBoxNarrowerThanOneCharacterTakesOneCharacterPerLine)
+{
+  EditScene at(true, true, 30);
+  const float room = static_cast<float>(at.edit->width.getValue() - 6 - 14 - 8);
+  ASSERT_GT(measuredWidth("m"), room);
+  // The box lies left of its bar, 7 left of the control's centre.
+  at.scene.click(at.editAt[0] - 7, at.editAt[1]);
+  at.type({SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::M, SoKeyboardEvent::M, SoKeyboardEvent::M});
+  EXPECT_EQ(at.text(), "mmm") << "a backspace in an empty box leaves it empty";
+  const SoMFString& lines = shownText(at.edit)->string;
+  ASSERT_EQ(lines.getNum(), 3);
+  EXPECT_EQ(std::string(lines[2].getString()), "m");
 }
 
 } // namespace
