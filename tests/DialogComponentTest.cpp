@@ -250,28 +250,6 @@ TEST(DialogComponent, edgeStyleAndEnableApplyToTheControlsFrame)
   expectOneFrameThroughRebuilds(window, node, "probeFrame");
 }
 
-TEST(DialogComponent, innerPlaceDependsOnEdgeAndLabel)
-{
-  ProbeComponent* node = makeComponent();
-  node->width = 100;
-  node->height = 30;
-  SbVec2i32 label(40, 18);
-  node->setLabelSize(label);
-  SbVec2i32 size, position;
-  node->get2DComponentSize(size, position);
-  EXPECT_EQ(size, SbVec2i32(52, 24));
-  EXPECT_EQ(position, SbVec2i32(45, 3));
-  node->edgeStyle = SoDialogComponent::SHADOW_IN;
-  node->get2DComponentSize(size, position);
-  EXPECT_EQ(size, SbVec2i32(52, 24));
-  EXPECT_EQ(position, SbVec2i32(44, 2));
-  node->edgeStyle = SoDialogComponent::SHADOW_OUT;
-  node->labelVisibility = FALSE;
-  node->get2DComponentSize(size, position);
-  EXPECT_EQ(size, SbVec2i32(94, 24));
-  EXPECT_EQ(position, SbVec2i32(0, 0));
-}
-
 // Counts the calls that a field change makes on a node.
 class ProbeNode : public SoFormwright {
 public:
@@ -382,22 +360,16 @@ TEST(RootNode, firstTopParentFollowsTraversableParents)
 
 TEST(RootNode, widgetListHoldsPointersAndOwnsNone)
 {
-  QWidget a, b, c;
+  QWidget a, b;
   QPointer<QWidget> kept = &a;
   {
-    SoDialogWidgetList list(2);
-    list.append(&a);
-    list.append(&c);
-    list.insert(&b, 1);
-    EXPECT_EQ(list.getLength(), 3);
+    SoDialogWidgetList list(1);
+    list.append(&b);
+    list.insert(&a, 0);
     EXPECT_EQ(list.find(&b), 1);
-    EXPECT_EQ(list[2], &c);
     SoDialogWidgetList copy(list);
-    list[0] = &c;
+    list[0] = &b;
     EXPECT_EQ(copy[0], &a) << "a copy is a list of its own";
-    copy = list;
-    EXPECT_EQ(copy.find(&a), -1);
-    EXPECT_EQ(copy.find(&c), 0);
   }
   EXPECT_FALSE(kept.isNull()) << "the list deletes no widget";
 }

@@ -36,6 +36,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <cstdlib>
@@ -109,10 +110,11 @@ float topOf(SoNode* part)
   return matrix.getMatrix()[3][2];
 }
 
-// A skin directory of one file.
-void writeSkinFile(const QTemporaryDir& dir, const char* file, const char* text)
+// One file of a skin, at `path` within `dir`.
+void writeSkinFile(const QTemporaryDir& dir, const QString& path, const QByteArray& text)
 {
-  QFile out(QDir(dir.path()).filePath(file));
+  ASSERT_TRUE(QDir(dir.path()).mkpath(QFileInfo(path).path()));
+  QFile out(QDir(dir.path()).filePath(path));
   ASSERT_TRUE(out.open(QIODevice::WriteOnly));
   out.write(text);
 }
@@ -218,14 +220,13 @@ TEST(Skins, aMissingOrBrokenFileFallsBackOnTheBuiltInText)
   ASSERT_EQ(messages.count(), before + 2);
   EXPECT_NE(messages.all()[before].find("The skin file : <DialogSeparator.scn> cannot be found."), std::string::npos);
   EXPECT_NE(messages.all()[before + 1].find("The skin file : <Missing.scn> cannot be found."), std::string::npos);
-  EXPECT_EQ(messages.countHolding("IMPORTANT"), messages.contains("IMPORTANT") ? 1 : 0);
   SoNode* vertical = SoNode::getByName("DialogSeparatorVertical");
   ASSERT_NE(vertical, nullptr);
   EXPECT_GT(static_cast<SoGroup*>(vertical)->getNumChildren(), 0);
   SoFormwright::setSkin(SbString(kDefaultSkin.c_str()));
 }
 
-TEST(Skins, theSearchListPutsTheInstalledSkinsFirst)
+TEST(Skins, theSearchListPutsTheInstalledSkinsFirstAndASkinIsFoundByNameInIt)
 {
   SoPreferences::setString("SCENICHOME", "/opt/scenic");
   SoFormwright::setSkinsDirectories("/home/me/skins;/srv/skins");
@@ -233,21 +234,13 @@ TEST(Skins, theSearchListPutsTheInstalledSkinsFirst)
   EXPECT_EQ(SoFormwright::getSkinsDirectory(), SoFormwright::getSkinsDirectories());
   SoPreferences::setString("SCENICHOME", "");
   EXPECT_EQ(SoFormwright::getSkinsDirectories(), SbString("/home/me/skins;/srv/skins"));
-  SoPreferences::unsetString("SCENICHOME");
-  SoPreferences::unsetString("FORMWRIGHT_SKINS_DIR");
-}
 
-TEST(Skins, aSkinIsFoundByNameInTheSearchList)
-{
   QTemporaryDir home;
-  ASSERT_TRUE(QDir(home.path()).mkpath("data/Formwright/skins/blue"));
-  QFile out(QDir(home.path()).filePath("data/Formwright/skins/blue/MenuBar.scn"));
-  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-  out.write("#Inventor V2.1 ascii\nDEF MenuBarFrame Group { Sphere {} }\n");
-  out.close();
+  writeSkinFile(home, "data/Formwright/skins/blue/MenuBar.scn", "#Inventor V2.1 ascii\nDEF MenuBarFrame Group { Sphere {} }\n");
   SoPreferences::setString("SCENICHOME", home.path().toUtf8().constData());
   SoFormwright::setSkin("blue");
   SoPreferences::unsetString("SCENICHOME");
+  SoPreferences::unsetString("FORMWRIGHT_SKINS_DIR");
   auto* frame = static_cast<SoGroup*>(SoNode::getByName("MenuBarFrame"));
   ASSERT_NE(frame, nullptr);
   ASSERT_EQ(frame->getNumChildren(), 1);
@@ -300,13 +293,11 @@ SbColor frameColour(const char* name)
 // given colour.
 void writePlateSkin(const QTemporaryDir& dir, const char* colour)
 {
-  ASSERT_TRUE(QDir(dir.path()).mkpath("default"));
-  QFile out(QDir(dir.path()).filePath("default/TopLevelDialog.scn"));
-  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-  out.write(QByteArray("#Inventor V2.1 ascii\nDEF TopLevelDialogFrame Group { Material { diffuseColor ") + colour +
-            " }  Translation { translation 0 0 0.5 }  Cube { width 1 height 1 depth 1 }"
-            "  Translation { translation 0 0 0.5 } }\n"
-            "DEF TopLevelDialogMinReleased Group { }\nDEF TopLevelDialogMinPressed Group { }\n");
+  writeSkinFile(dir, "default/TopLevelDialog.scn",
+                QByteArray("#Inventor V2.1 ascii\nDEF TopLevelDialogFrame Group { Material { diffuseColor ") + colour +
+                  " }  Translation { translation 0 0 0.5 }  Cube { width 1 height 1 depth 1 }"
+                  "  Translation { translation 0 0 0.5 } }\n"
+                  "DEF TopLevelDialogMinReleased Group { }\nDEF TopLevelDialogMinPressed Group { }\n");
 }
 
 TEST(SkinRestart, aBuildAfterARestartReadsTheSkinsAgainAndShowsThePlate)

@@ -6,7 +6,6 @@
 #include <SoFormwright.h>
 #include <SoTopLevelDialog.h>
 
-#include <Inventor/nodes/SoText3.h>
 
 #include <QFontMetrics>
 #include <QLabel>
@@ -22,8 +21,6 @@ class TextNode : public SoFormwright {
 public:
   using SoFormwright::convertToCString;
   using SoFormwright::getNumLines;
-  using SoFormwright::insertTextTo3DText;
-  using SoFormwright::setStringToText3;
 };
 
 // The measure of text as the library takes it: the widest line, the height
@@ -40,14 +37,6 @@ SbVec2i32 measure(const QFont& font, const QStringList& lines)
 SbVec2i32 measure(const QStringList& lines)
 {
   return measure(SoFormwright::getFormwrightFont(), lines);
-}
-
-std::vector<std::string> linesOf(const SoText3* text)
-{
-  std::vector<std::string> lines;
-  for (int i = 0; i < text->string.getNum(); ++i)
-    lines.push_back(text->string[i].getString());
-  return lines;
 }
 
 TEST(TextServices, escapesResolveByTheKindOfNode)
@@ -120,30 +109,6 @@ TEST(TextServices, newFontChangesLaterMeasuresButNotBuiltWidgets)
   EXPECT_NE(measured, measure({"Name:"}));
   EXPECT_EQ(SoFormwright::getLabelPixelSize("Name:", nullptr), before);
   EXPECT_EQ(built.font(), original);
-}
-
-TEST(TextServices, textIsSplitOverTheStringValuesAndInsertedIntoThem)
-{
-  auto* text = makeNode<SoText3>();
-  TextNode::setStringToText3(text, "one\ntwo\nthree");
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"one", "two", "three"}));
-  TextNode::setStringToText3(text, "a\n");
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"a", "", "three"}))
-    << "a closing line feed gives an empty line; older lines stay behind";
-
-  text->string.setValue("hello");
-  EXPECT_EQ(TextNode::insertTextTo3DText("XY", text, 0, 2), 0);
-  EXPECT_EQ(TextNode::insertTextTo3DText("<", text, 0, 0), 0);
-  EXPECT_EQ(TextNode::insertTextTo3DText(">", text, 0, -1), 0);
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"<heXYllo>"}));
-  EXPECT_EQ(TextNode::insertTextTo3DText("new", text, 2, 5), 2) << "a line past the end is set whole";
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"<heXYllo>", "", "new"}));
-
-  const char* before[] = {"l0", "l1", "l2", "l3"};
-  text->string.setValues(0, 4, before);
-  EXPECT_EQ(TextNode::insertTextTo3DText("ab\ncd", text, 0, 1), 1);
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"l0", "", "l2", "l1", "l2"}))
-    << "a line feed opens an empty line and stores none of the text";
 }
 
 // Dialog files written today hold UTF-8 text and older ones Latin-1: either
