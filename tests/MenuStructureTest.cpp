@@ -39,6 +39,15 @@ SbString keys(const char* text)
   return MenuText::getKeyCombination(text, nullptr, 0);
 }
 
+// The entries of a Qt menu or bar, a separator as "-".
+QStringList texts(const QWidget* menu)
+{
+  QStringList result;
+  for (const QAction* entry : menu->actions())
+    result << (entry->isSeparator() ? "-" : entry->text());
+  return result;
+}
+
 const char* const kWindow = R"(#Inventor V2.1 ascii
 TopLevelDialog {
   MenuBar {
@@ -70,13 +79,6 @@ protected:
   {
     return qobject_cast<QMenuBar*>(dialog->getBaseWidget()->layout()->menuBar());
   }
-  static QStringList titles(const QWidget* menu)
-  {
-    QStringList result;
-    for (const QAction* action : menu->actions())
-      result << action->text();
-    return result;
-  }
 
   SoTopLevelDialog* window = nullptr;
   SoMenuBar* bar = nullptr;
@@ -89,12 +91,12 @@ TEST_F(MenuStructure, windowPlacesItsBarWithPopupsAndCascades)
   window->buildDialog(nullptr, 0);
   QMenuBar* qt = placedBar(window);
   ASSERT_NE(qt, nullptr);
-  EXPECT_EQ(titles(qt), (QStringList{"File", QString::fromUtf8("Größe")}))
+  EXPECT_EQ(texts(qt), (QStringList{"File", QString::fromUtf8("Größe")}))
     << "a popup's title keeps characters beyond Latin-1";
   QMenu* fileMenu = qt->actions()[0]->menu();
   ASSERT_NE(fileMenu, nullptr);
-  EXPECT_EQ(titles(fileMenu), QStringList{"Recent"});
-  EXPECT_EQ(titles(fileMenu->actions()[0]->menu()), QStringList{"Older"});
+  EXPECT_EQ(texts(fileMenu), QStringList{"Recent"});
+  EXPECT_EQ(texts(fileMenu->actions()[0]->menu()), QStringList{"Older"});
   EXPECT_EQ(recent->getMenuBar(), bar);
 
   file->label = "Document";
@@ -108,7 +110,7 @@ TEST_F(MenuStructure, windowPlacesItsBarWithPopupsAndCascades)
   window->show();
   window->insertChild(makeNode<SoDialogLabel>(), 1);
   ASSERT_NE(placedBar(window), nullptr);
-  EXPECT_EQ(titles(placedBar(window)), (QStringList{"Document", QString::fromUtf8("Größe")}));
+  EXPECT_EQ(texts(placedBar(window)), (QStringList{"Document", QString::fromUtf8("Größe")}));
 }
 
 TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
@@ -120,13 +122,13 @@ TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
 
   window->buildDialog(nullptr, 0);
   QMenu* fileMenu = placedBar(window)->actions()[0]->menu();
-  EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early"})) << "the first build makes them in child order";
+  EXPECT_EQ(texts(fileMenu), (QStringList{"Recent", "Early"})) << "the first build makes them in child order";
 
   auto* first = new SoMenuPopup;
   first->label = "First";
   file->insertChild(first, 0);
   EXPECT_EQ(file->getChild(0), first);
-  EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early", "First"})) << "Qt items always go last";
+  EXPECT_EQ(texts(fileMenu), (QStringList{"Recent", "Early", "First"})) << "Qt items always go last";
 
   auto* replacement = new SoMenuPopup;
   replacement->label = "Other";
@@ -134,7 +136,7 @@ TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
   file->removeChild(recent);
   EXPECT_EQ(file->getNumChildren(), 2);
   EXPECT_EQ(file->getChild(1), replacement);
-  EXPECT_EQ(titles(fileMenu), (QStringList{"Recent", "Early", "First", "Other"})) << "nothing leaves the Qt menu";
+  EXPECT_EQ(texts(fileMenu), (QStringList{"Recent", "Early", "First", "Other"})) << "nothing leaves the Qt menu";
 }
 
 // Misuse of a container's child operations, which is reported and changes
@@ -288,13 +290,6 @@ protected:
   }
 
   QAction* action(int index) const { return menu->actions()[index]; }
-  QStringList texts() const
-  {
-    QStringList result;
-    for (const QAction* entry : menu->actions())
-      result << (entry->isSeparator() ? "-" : entry->text());
-    return result;
-  }
   std::vector<bool> radioMarks() const
   {
     return {action(3)->isChecked(), action(4)->isChecked(), action(5)->isChecked()};
@@ -311,7 +306,7 @@ protected:
 
 TEST_F(MenuEntries, entriesStandInFileOrderWithTheirKeys)
 {
-  EXPECT_EQ(texts(), (QStringList{"Copy", "-", "Off", "Small", "Medium", "Large", "Paste"}));
+  EXPECT_EQ(texts(menu), (QStringList{"Copy", "-", "Off", "Small", "Medium", "Large", "Paste"}));
   EXPECT_EQ(action(0)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_C));
   EXPECT_EQ(action(2)->shortcut(), QKeySequence(Qt::ALT | Qt::SHIFT | Qt::Key_G));
   EXPECT_FALSE(action(0)->isCheckable());
@@ -396,7 +391,7 @@ TEST_F(MenuEntries, newItemsRebuildTheGroupAtTheEndWithNewNumbers)
   const int firstId = zoom->getId();
   zoom->items.setValues(0, 2, std::vector<const char*>{"Fit", "Fill"}.data());
   zoom->items.setNum(2);
-  EXPECT_EQ(texts(), (QStringList{"Copy", "-", "Off", "Paste", "Fit", "Fill"}));
+  EXPECT_EQ(texts(menu), (QStringList{"Copy", "-", "Off", "Paste", "Fit", "Fill"}));
   EXPECT_GT(zoom->getId(), firstId);
   EXPECT_EQ(action(4)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_1));
 
@@ -406,33 +401,23 @@ TEST_F(MenuEntries, newItemsRebuildTheGroupAtTheEndWithNewNumbers)
   EXPECT_FALSE(action(4)->isChecked());
 }
 
-TEST(MenuEntryDefaults, aDefaultRadioGroupShowsOneEmptyCheckedEntry)
+// Entries built alone: a default radio group shows one empty checked entry,
+// a check box its file's text and mark, and keys that name no key leave no
+// shortcut and no message.
+TEST(MenuEntryDefaults, entriesTakeTheirFilesValuesAndUnreadableKeysNothing)
 {
-  QMenu menu;
-  auto* group = makeNode<SoMenuRadioButtons>();
-  group->buildMenu(&menu, 1, -1);
-  ASSERT_EQ(menu.actions().size(), 1);
-  EXPECT_EQ(menu.actions()[0]->text(), "");
-  EXPECT_TRUE(menu.actions()[0]->isChecked());
-}
-
-TEST(MenuEntryDefaults, checkBoxTakesTextMarkAndKeyFromTheFile)
-{
-  SoSeparator* root = readScene("#Inventor V2.1 ascii\n"
+  SoSeparator* root = readScene("#Inventor V2.1 ascii\nMenuRadioButtons { }\n"
                                 "MenuCheckBox { label \"Off\" onString \"On\" state TRUE enable FALSE }\n");
   ASSERT_NE(root, nullptr);
   QMenu menu;
-  static_cast<SoMenuCheckBox*>(root->getChild(0))->buildMenu(&menu, 1, -1);
-  QAction* entry = menu.actions()[0];
-  EXPECT_EQ(entry->text(), "On");
-  EXPECT_TRUE(entry->isChecked());
-  EXPECT_TRUE(entry->isEnabled());
-}
+  static_cast<SoMenuRadioButtons*>(root->getChild(0))->buildMenu(&menu, 1, -1);
+  static_cast<SoMenuCheckBox*>(root->getChild(1))->buildMenu(&menu, 1, -1);
+  ASSERT_EQ(texts(&menu), (QStringList{"", "On"}));
+  EXPECT_TRUE(menu.actions()[0]->isChecked());
+  EXPECT_TRUE(menu.actions()[1]->isChecked());
+  EXPECT_TRUE(menu.actions()[1]->isEnabled());
 
-TEST(MenuEntryDefaults, unreadableKeysLeaveNoShortcutAndNoMessage)
-{
   DebugMessages messages;
-  QMenu menu;
   for (const char* text : {"Ctrl+Shift", "Alt+", "Ctrl+NoSuchKey", "Shift Ctrl+N"}) {
     auto* entry = makeNode<SoMenuPushButton>();
     entry->accelerator = text;
