@@ -249,8 +249,15 @@ TEST_F(AuditorRouting, auditorRemovingItselfLetsTheOthersHearTheSameEvent)
   EXPECT_EQ(log, (std::vector<std::string>{"once:button:apply:", "after:button:apply:", "after:button:apply:"}));
 }
 
-TEST_F(AuditorRouting, controlWithItsOwnAuditorIsHeardByNoGroup)
+TEST_F(AuditorRouting, searchIsDepthFirstAndAControlWithItsOwnAuditorIsHeardByNoGroup)
 {
+  EXPECT_EQ(dialog->searchForAuditorId("window"), nullptr) << "the searching node itself is not compared";
+  EXPECT_EQ(dialog->searchForAuditorId("close")->getParent(), outer);
+  EXPECT_TRUE(dialog->searchForAuditorId("")->isOfType(SoDialogLabel::getClassTypeId()))
+    << "the first child whose identifier was left empty";
+  EXPECT_EQ(inner->searchForAuditorId("close"), nullptr);
+  EXPECT_EQ(dialog->searchForAuditorId("nothing"), nullptr);
+
   Recorder group(log, "group");
   ButtonRecorder own(log);
   outer->addAuditor(&group);
@@ -264,16 +271,6 @@ TEST_F(AuditorRouting, controlWithItsOwnAuditorIsHeardByNoGroup)
   log.clear();
   outer->applyAuditors();
   EXPECT_EQ(log, (std::vector<std::string>{"group:button:apply:", "group:check:binary:FALSE", "group:button:close:"}));
-}
-
-TEST_F(AuditorRouting, searchIsDepthFirstOverChildrenOnly)
-{
-  EXPECT_EQ(dialog->searchForAuditorId("window"), nullptr) << "the searching node itself is not compared";
-  EXPECT_EQ(dialog->searchForAuditorId("close")->getParent(), outer);
-  EXPECT_TRUE(dialog->searchForAuditorId("")->isOfType(SoDialogLabel::getClassTypeId()))
-    << "the first child whose identifier was left empty";
-  EXPECT_EQ(inner->searchForAuditorId("close"), nullptr);
-  EXPECT_EQ(dialog->searchForAuditorId("nothing"), nullptr);
 }
 
 TEST(MenuAuditors, menusClimbToTheWindowWhichSortsEntriesByClass)

@@ -140,8 +140,13 @@ TEST_F(Launchers, checkBoxShowsItsDialogsWhileChecked)
   EXPECT_TRUE(shown(layers));
 }
 
-TEST_F(Launchers, applyAuditorsWalksIntoTheLaunchersDialogs)
+TEST_F(Launchers, applyAuditorsAndSearchWalkIntoTheLaunchersDialogs)
 {
+  EXPECT_EQ(window->searchForAuditorId("fast")->getParent(), optionsDialog);
+  EXPECT_EQ(window->searchForAuditorId("layers"), layers);
+  EXPECT_EQ(row->searchForAuditorId("run")->getParent(), tools);
+  EXPECT_EQ(options->searchForAuditorId("options"), nullptr) << "the launcher itself is not compared";
+
   EventLog atRow, atTools, atOptions;
   row->addAuditor(&atRow);
   tools->addAuditor(&atTools);
@@ -151,14 +156,6 @@ TEST_F(Launchers, applyAuditorsWalksIntoTheLaunchersDialogs)
   EXPECT_EQ(atRow.entries, std::vector<std::string>{"check:plain:FALSE"});
   EXPECT_EQ(atTools.entries, std::vector<std::string>{"button:run:"});
   EXPECT_EQ(atOptions.entries, std::vector<std::string>{"check:fast:FALSE"});
-}
-
-TEST_F(Launchers, searchEntersTheLaunchersDialogs)
-{
-  EXPECT_EQ(window->searchForAuditorId("fast")->getParent(), optionsDialog);
-  EXPECT_EQ(window->searchForAuditorId("layers"), layers);
-  EXPECT_EQ(row->searchForAuditorId("run")->getParent(), tools);
-  EXPECT_EQ(options->searchForAuditorId("options"), nullptr) << "the launcher itself is not compared";
 }
 
 // Menu entries that open dialogs or ask for a file. The file dialog is Qt's
@@ -270,8 +267,12 @@ protected:
   QMenu* menu = nullptr;
 };
 
-TEST_F(MenuLaunchers, pushButtonOpensEveryDialogAfterTheAuditors)
+TEST_F(MenuLaunchers, searchReachesTheLaunchedDialogsAndThePushButtonOpensThemAll)
 {
+  EXPECT_TRUE(window->searchForAuditorId("inFirst")->isOfType(SoDialogLabel::getClassTypeId()));
+  EXPECT_EQ(window->searchForAuditorId("paletteDialog"), paletteDialog);
+  EXPECT_EQ(both->searchForAuditorId("second"), second);
+
   EXPECT_EQ(first->getBaseWidget(), nullptr) << "nothing is built before the first choice";
   recorder.watched = first;
   menu->actions()[0]->trigger();
@@ -291,13 +292,6 @@ TEST_F(MenuLaunchers, checkBoxShowsAndHidesItsDialogAfterTheAuditors)
   EXPECT_FALSE(shown(paletteDialog));
   EXPECT_EQ(log, (std::vector<std::string>{"menuCheck:palette:TRUE:hidden", "menuCheck:palette:FALSE:shown"}));
 
-}
-
-TEST_F(MenuLaunchers, searchGoesThroughMenusIntoLaunchedDialogs)
-{
-  EXPECT_TRUE(window->searchForAuditorId("inFirst")->isOfType(SoDialogLabel::getClassTypeId()));
-  EXPECT_EQ(window->searchForAuditorId("paletteDialog"), paletteDialog);
-  EXPECT_EQ(both->searchForAuditorId("second"), second);
 }
 
 class FileSelection : public MenuLaunchers {
