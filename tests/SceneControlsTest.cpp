@@ -67,20 +67,6 @@ struct Heard : SoDialogAuditor {
   }
 };
 
-// Where a node stands in the scene, its place on every path taken into account.
-SbVec3f placeOf(SoNode* root, SoNode* node)
-{
-  SoSearchAction search;
-  search.setNode(node);
-  search.setSearchingAll(TRUE);
-  SoBaseKit::setSearchingChildren(TRUE);
-  search.apply(root);
-  SoBaseKit::setSearchingChildren(FALSE);
-  SoGetBoundingBoxAction box{SbViewportRegion()};
-  box.apply(search.getPath());
-  return box.getBoundingBox().getCenter();
-}
-
 std::vector<std::string> lines(SoText3* text)
 {
   std::vector<std::string> result;
@@ -131,14 +117,15 @@ TEST_F(SceneControls, aPushButtonFiresAtReleaseWhereverThePointerWentAndNotFromI
   buildInScene(dialog);
   const SbVec2f c = centre(button);
   const float body = c[0] + 100 - 10;
-  const float captionTop = placeOf(scene.root, button->buttonLabelText)[2];
+  const auto captionTop = [&] { return boxBelow(scene.root, button->buttonLabelText).getCenter()[2]; };
+  const float released = captionTop();
 
   scene.button(SoButtonEvent::DOWN, body, c[1]);
   // The released block's top stands at 2 and the pressed one's at 1.
-  EXPECT_NEAR(placeOf(scene.root, button->buttonLabelText)[2], captionTop - 1, 0.01f);
+  EXPECT_NEAR(captionTop(), released - 1, 0.01f);
   EXPECT_TRUE(heard.events.empty()) << "the button fires at release";
   scene.button(SoButtonEvent::UP, body, c[1]);
-  EXPECT_NEAR(placeOf(scene.root, button->buttonLabelText)[2], captionTop, 0.01f);
+  EXPECT_NEAR(captionTop(), released, 0.01f);
   EXPECT_EQ(heard.events, std::vector<std::string>{"button"});
 
   scene.button(SoButtonEvent::DOWN, body, c[1]);
@@ -368,14 +355,7 @@ struct SliderScene : SoDialogAuditor {
   // Where a part of the slider lies in the scene.
   SbBox3f box(const char* part)
   {
-    SoSearchAction search;
-    search.setNode(static_cast<SoSFNode*>(slider->getField(part))->getValue());
-    SoBaseKit::setSearchingChildren(TRUE);
-    search.apply(scene.root);
-    SoBaseKit::setSearchingChildren(FALSE);
-    SoGetBoundingBoxAction measure{SbViewportRegion()};
-    measure.apply(search.getPath());
-    return measure.getBoundingBox();
+    return boxBelow(scene.root, static_cast<SoSFNode*>(slider->getField(part))->getValue());
   }
   float cursorX() { return box("cursorSep").getCenter()[0]; }
   // The cursor's centre at `position`: it travels the bar less its width, 10.
@@ -385,11 +365,6 @@ struct SliderScene : SoDialogAuditor {
     return bar.getMin()[0] + 5 + position * (bar.getSize()[0] - 10);
   }
   std::string text() const { return slider->editText3->string[0].getString(); }
-  void type(std::initializer_list<Key::Key> keys)
-  {
-    for (Key::Key key : keys)
-      scene.key(key);
-  }
   void clickValueBox() { scene.click(box("edtFrmSep").getCenter()); }
   // Presses on the cone and moves it to `x`, held until `release`.
   void dragCursorTo(float x)
@@ -424,20 +399,20 @@ TEST(SceneSlider, typedDigitsMoveTheCursorOnlyAtReturnAndAnIntegerBoxRefusesTheM
   SliderScene<IntSlider> at(0, 10);
   const float start = at.cursorX();
   at.clickValueBox();
-  at.type({Key::BACKSPACE, Key::NUMBER_7, Key::MINUS});
+  at.scene.type({Key::BACKSPACE, Key::NUMBER_7, Key::MINUS});
   EXPECT_EQ(at.text(), "7");
   EXPECT_EQ(at.cursorX(), start);
   EXPECT_TRUE(at.heard.empty());
-  at.type({Key::RETURN, Key::NUMBER_1});
+  at.scene.type({Key::RETURN, Key::NUMBER_1});
   EXPECT_EQ(at.slider->value.getValue(), 7);
   EXPECT_NEAR(at.cursorX(), at.cursorAt(0.7f), 0.01f);
   EXPECT_EQ(at.text(), "7") << "Return ends the editing";
   EXPECT_EQ(at.heard, Values{7});
   at.clickValueBox();
-  at.type({Key::NUMBER_2});
+  at.scene.type({Key::NUMBER_2});
   at.dragCursorTo(at.cursorX() + 1);
   at.release();
-  at.type({Key::NUMBER_3, Key::RETURN});
+  at.scene.type({Key::NUMBER_3, Key::RETURN});
   EXPECT_EQ(at.slider->value.getValue(), 7) << "a drag of the cursor ends an edit untaken";
 }
 
@@ -479,15 +454,15 @@ TEST(SceneSlider, badInputGivesNumbersNeverNaN)
   EXPECT_EQ(equal.slider->value.getValue(), 5);
   EXPECT_TRUE(std::isfinite(equal.cursorX()));
   equal.clickValueBox();
-  equal.type({Key::BACKSPACE, Key::BACKSPACE, Key::RETURN});
+  equal.scene.type({Key::BACKSPACE, Key::BACKSPACE, Key::RETURN});
   EXPECT_EQ(equal.slider->value.getValue(), 0) << "an empty box reads as 0";
 
   SliderScene<RealSlider> real(0, 10);
   real.clickValueBox();
-  real.type({Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::MINUS,
+  real.scene.type({Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::BACKSPACE, Key::MINUS,
              Key::NUMBER_1, Key::PERIOD, Key::NUMBER_5, Key::A, Key::LEFT_ARROW, Key::LEFT_SHIFT});
   EXPECT_EQ(real.text(), "1.5") << "a lone minus and a letter make no number";
-  real.type({Key::RETURN});
+  real.scene.type({Key::RETURN});
   EXPECT_FLOAT_EQ(real.slider->value.getValue(), 1.5f);
   EXPECT_NEAR(real.cursorX(), real.cursorAt(0.15f), 0.01f);
   EXPECT_EQ(real.text(), "1.500");
@@ -543,11 +518,6 @@ struct EditScene {
     if (SoKeyboardEvent::isKeyPressEvent(callback->getEvent(), SoKeyboardEvent::ANY))
       ++static_cast<EditScene*>(data)->untakenKeys;
   }
-  void type(std::initializer_list<SoKeyboardEvent::Key> keys)
-  {
-    for (SoKeyboardEvent::Key key : keys)
-      scene.key(key);
-  }
   std::string text() const { return edit->editText.getValue().getString(); }
 };
 
@@ -566,30 +536,30 @@ SoText3* shownText(SoDialogEditText* node)
 TEST(SceneEditText, keysGoToTheTailOncePerPressAndReturnCommits)
 {
   EditScene at(true);
-  at.type({SoKeyboardEvent::A});
+  at.scene.type({SoKeyboardEvent::A});
   EXPECT_EQ(at.text(), "") << "no key is taken before a press on the box";
   EXPECT_EQ(at.untakenKeys, 1);
 
   at.scene.click(at.editAt);
-  at.type({SoKeyboardEvent::A, SoKeyboardEvent::B, SoKeyboardEvent::NUMBER_1, SoKeyboardEvent::PAD_7});
+  at.scene.type({SoKeyboardEvent::A, SoKeyboardEvent::B, SoKeyboardEvent::NUMBER_1, SoKeyboardEvent::PAD_7});
   EXPECT_EQ(at.text(), "ab17") << "the keypad's navigation keys type their digits";
-  at.type({SoKeyboardEvent::LEFT_ARROW, SoKeyboardEvent::LEFT_SHIFT});
+  at.scene.type({SoKeyboardEvent::LEFT_ARROW, SoKeyboardEvent::LEFT_SHIFT});
   EXPECT_EQ(at.text(), "ab17");
   EXPECT_EQ(at.untakenKeys, 3) << "keys that type nothing go on";
-  at.type({SoKeyboardEvent::BACKSPACE});
+  at.scene.type({SoKeyboardEvent::BACKSPACE});
   at.scene.key(SoKeyboardEvent::RETURN, true);
   EXPECT_EQ(at.text(), "ab1\n");
   EXPECT_TRUE(at.auditor.heard.empty()) << "only Return or leaving tells";
 
-  at.type({SoKeyboardEvent::RETURN, SoKeyboardEvent::C});
+  at.scene.type({SoKeyboardEvent::RETURN, SoKeyboardEvent::C});
   EXPECT_EQ(at.auditor.heard, std::vector<std::string>{"ab1\n"});
   EXPECT_EQ(at.text(), "ab1\n") << "Return ends the editing";
 
   // A press on another control commits as Return does.
   at.scene.click(at.editAt);
-  at.type({SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::Q});
+  at.scene.type({SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::Q});
   at.scene.click(at.otherAt);
-  at.type({SoKeyboardEvent::X});
+  at.scene.type({SoKeyboardEvent::X});
   EXPECT_EQ(at.auditor.heard, (std::vector<std::string>{"ab1\n", "ab1q"}));
   EXPECT_EQ(at.text(), "ab1q");
   EXPECT_EQ(at.other->editText.getValue(), "") << "a read-only box takes no key";
@@ -599,7 +569,7 @@ TEST(SceneEditText, withoutTrigOnEnterEveryKeyTells)
 {
   EditScene at(false);
   at.scene.click(at.editAt);
-  at.type({SoKeyboardEvent::X, SoKeyboardEvent::Y, SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::RETURN});
+  at.scene.type({SoKeyboardEvent::X, SoKeyboardEvent::Y, SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::RETURN});
   EXPECT_EQ(at.auditor.heard, (std::vector<std::string>{"x", "xy", "x"}));
 }
 
@@ -639,7 +609,7 @@ TEST(SceneEditText, aLongLineWrapsRepeatingTheCharacterThatOverflows)
   EXPECT_EQ(lines[1].getString()[0], typed[next]);
 
   at.scene.key(SoKeyboardEvent::RETURN, true);
-  at.type({SoKeyboardEvent::Z});
+  at.scene.type({SoKeyboardEvent::Z});
   EXPECT_EQ(std::string(lines[lines.getNum() - 1].getString()), "z") << "Shift+Return opens a line";
   EXPECT_EQ(at.text(), typed + "\nz");
 }
@@ -651,7 +621,7 @@ TEST(SceneEditText, aBoxNarrowerThanOneCharacterTakesOneCharacterPerLine)
   ASSERT_GT(measuredWidth("m"), room);
   // The box lies left of its bar, 7 left of the control's centre.
   at.scene.click(at.editAt[0] - 7, at.editAt[1]);
-  at.type({SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::M, SoKeyboardEvent::M, SoKeyboardEvent::M});
+  at.scene.type({SoKeyboardEvent::BACKSPACE, SoKeyboardEvent::M, SoKeyboardEvent::M, SoKeyboardEvent::M});
   EXPECT_EQ(at.text(), "mmm") << "a backspace in an empty box leaves it empty";
   const SoMFString& lines = shownText(at.edit)->string;
   ASSERT_EQ(lines.getNum(), 3);
