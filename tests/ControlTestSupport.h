@@ -141,6 +141,21 @@ inline QRect expectedBody(int frameWidth, int frameHeight, int labelColumnWidth,
   return QRect(2, 3, frameWidth - 6, frameHeight - 6);
 }
 
+// Resized by its layout, a control with its label in a column beside its
+// body shows both in their places; a hidden label leaves the body its room.
+inline void expectLabelBesideBody(SoDialogComponent* node, QWidget* label, QWidget* body, SbVec2i32 labelSize)
+{
+  resizeFrame(node->getWidget(), 240, 33);
+  EXPECT_EQ(SbVec2i32(node->width.getValue(), node->height.getValue()), SbVec2i32(240, 33));
+  EXPECT_EQ(label->geometry(), expectedSideLabel(33, labelSize[0], labelSize[1]));
+  EXPECT_EQ(body->geometry(), expectedBody(240, 33, labelSize[0], true));
+  node->labelVisibility = FALSE;
+  EXPECT_TRUE(label->isHidden());
+  EXPECT_EQ(body->geometry(), expectedBody(240, 33, labelSize[0], false));
+  node->labelVisibility = TRUE;
+  EXPECT_EQ(body->geometry(), expectedBody(240, 33, labelSize[0], true));
+}
+
 // A second build only refreshes; destroyWidget deletes the one frame and
 // forgets it; the next build makes a new one.
 inline void expectOneFrameThroughRebuilds(ControlWindow& window, SoDialogComponent* node, const char* frameName)
