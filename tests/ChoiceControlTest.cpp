@@ -8,9 +8,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
-#include <QTest>
-
-#include <algorithm>
 
 namespace {
 

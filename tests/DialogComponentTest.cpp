@@ -1,19 +1,14 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoColumnDialog.h>
 #include <SoDialogAuditor.h>
 #include <SoDialogGroup.h>
 #include <SoDialogLabel.h>
 #include <SoDialogWidgetList.h>
-#include <SoFormwright.h>
 #include <SoRowDialog.h>
 #include <SoTopLevelDialog.h>
 
 #include <Inventor/sensors/SoFieldSensor.h>
-
-#include <QPointer>
-#include <QWidget>
 
 namespace {
 

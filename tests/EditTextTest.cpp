@@ -5,8 +5,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
-#include <QTest>
 #include <QTextEdit>
 
 namespace {

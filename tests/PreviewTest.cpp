@@ -1,7 +1,4 @@
 #include "SceneTestSupport.h"
-#include "TestSupport.h"
-
-#include <SoTopLevelDialog.h>
 
 #include <QDir>
 #include <QFile>

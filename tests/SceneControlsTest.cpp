@@ -12,8 +12,6 @@
 #include <SoDialogRealSlider.h>
 #include <SoRowDialog.h>
 
-#include <Inventor/actions/SoSearchAction.h>
-#include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoEventCallback.h>
 #include <Inventor/nodes/SoSwitch.h>
 #include <Inventor/nodes/SoText3.h>

@@ -4,13 +4,10 @@
 #include <SoColumnDialog.h>
 #include <SoDialogCheckBox.h>
 #include <SoDialogCheckBoxLauncher.h>
-#include <SoDialogComponent.h>
 #include <SoDialogPushButtonLauncher.h>
 #include <SoMenuCheckBoxLauncher.h>
 #include <SoRowDialog.h>
 
-#include <Inventor/actions/SoSearchAction.h>
-#include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoText3.h>
 

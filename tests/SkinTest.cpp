@@ -3,18 +3,15 @@
 #include "SbStringConvert.h"
 #include "SoPreferences.h"
 #include "SoSFFilePathString.h"
-#include "TestSupport.h"
 
 #include <SoDialogCheckBox.h>
 #include <SoDialogComboBox.h>
-#include <SoDialogComponent.h>
 #include <SoDialogEditText.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
 #include <SoDialogSeparator.h>
 #include <SoDialogSlider.h>
 #include <SoFormMode.h>
-#include <SoFormwright.h>
 #include <SoMenuBar.h>
 #include <SoMenuCheckBox.h>
 #include <SoMenuItem.h>

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QOpenGLContext>
-#include <QTest>
 
 #include <cmath>
 

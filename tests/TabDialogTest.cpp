@@ -11,10 +11,8 @@
 #include <SoTabDialogAuditor.h>
 #include <SoTopLevelDialog.h>
 
-#include <QApplication>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTest>
 
 namespace {
 

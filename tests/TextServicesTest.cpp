@@ -6,7 +6,6 @@
 #include <SoFormwright.h>
 #include <SoTopLevelDialog.h>
 
-
 #include <QFontMetrics>
 #include <QLabel>
 #include <QWidget>

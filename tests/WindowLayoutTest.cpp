@@ -1,5 +1,4 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoChildSizeTable.h>
 #include <SoColumnDialog.h>
