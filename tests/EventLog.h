@@ -13,10 +13,24 @@
 #include <SoMenuRadioButtons.h>
 #include <SoTopLevelDialog.h>
 
+#include <QLayout>
+#include <QMenuBar>
 #include <QWidget>
 
 #include <string>
 #include <vector>
+
+// Whether a dialog's window is on screen.
+inline bool isShown(SoTopLevelDialog* dialog)
+{
+  return dialog->getBaseWidget() && dialog->getBaseWidget()->isVisible();
+}
+
+// The Qt menu bar that a built window placed, or null.
+inline QMenuBar* menuBarOf(SoTopLevelDialog* window)
+{
+  return qobject_cast<QMenuBar*>(window->getBaseWidget()->layout()->menuBar());
+}
 
 class EventLog : public SoDialogAuditor {
 public:
@@ -53,7 +67,7 @@ private:
   {
     std::string entry = (name.empty() ? "" : name + ":") + kind + ":" + node->auditorID.getValue().getString() + ":" + value;
     if (watched)
-      entry += watched->getBaseWidget() && watched->getBaseWidget()->isVisible() ? ":shown" : ":hidden";
+      entry += isShown(watched) ? ":shown" : ":hidden";
     log->push_back(entry);
   }
 };

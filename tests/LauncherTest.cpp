@@ -69,10 +69,6 @@ protected:
     window->addAuditor(&recorder);
   }
 
-  static bool shown(SoTopLevelDialog* dialog)
-  {
-    return dialog->getBaseWidget() && dialog->getBaseWidget()->isVisible();
-  }
   template <class Widget>
   static Widget* widgetOf(SoDialogComponent* node)
   {
@@ -94,20 +90,20 @@ TEST_F(Launchers, pushButtonOpensItsDialogAfterTheAuditorsHeard)
 {
   window->buildDialog(nullptr, 0);
   ASSERT_NE(optionsDialog->getBaseWidget(), nullptr) << "built with the button";
-  EXPECT_FALSE(shown(optionsDialog));
+  EXPECT_FALSE(isShown(optionsDialog));
   EXPECT_EQ(optionsDialog->getParent(), options);
 
   recorder.watched = optionsDialog;
   QTest::mousePress(widgetOf<QPushButton>(options), Qt::LeftButton);
   EXPECT_EQ(log, std::vector<std::string>{"button:options::hidden"});
-  EXPECT_TRUE(shown(optionsDialog));
+  EXPECT_TRUE(isShown(optionsDialog));
 
   QWidget* built = optionsDialog->getBaseWidget();
   optionsDialog->hide();
   optionsDialog->width = built->width() + 40;
   QTest::mouseRelease(widgetOf<QPushButton>(options), Qt::LeftButton);
   QTest::mousePress(widgetOf<QPushButton>(options), Qt::LeftButton);
-  EXPECT_TRUE(shown(optionsDialog));
+  EXPECT_TRUE(isShown(optionsDialog));
   EXPECT_EQ(built->width(), optionsDialog->width.getValue()) << "in the width set while it was hidden";
   EXPECT_EQ(optionsDialog->getBaseWidget(), built) << "a dialog once built stays built";
 
@@ -121,8 +117,8 @@ TEST_F(Launchers, pushButtonOpensItsDialogAfterTheAuditorsHeard)
 TEST_F(Launchers, checkBoxShowsItsDialogsWhileChecked)
 {
   window->buildDialog(nullptr, 0);
-  EXPECT_TRUE(shown(tools));
-  EXPECT_TRUE(shown(layers));
+  EXPECT_TRUE(isShown(tools));
+  EXPECT_TRUE(isShown(layers));
   EXPECT_TRUE(log.empty()) << "a launcher read as checked is no click";
 
   recorder.watched = tools;
@@ -131,13 +127,13 @@ TEST_F(Launchers, checkBoxShowsItsDialogsWhileChecked)
   QTest::mouseClick(box, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, box->height() / 2));
   EXPECT_FALSE(panels->state.getValue());
   EXPECT_EQ(log, std::vector<std::string>{"check:panels:FALSE:shown"}) << "hidden after the auditors ran";
-  EXPECT_FALSE(shown(tools));
-  EXPECT_FALSE(shown(layers));
+  EXPECT_FALSE(isShown(tools));
+  EXPECT_FALSE(isShown(layers));
   EXPECT_EQ(tools->getBaseWidget(), built);
 
   QTest::mouseClick(box, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, box->height() / 2));
-  EXPECT_TRUE(shown(tools));
-  EXPECT_TRUE(shown(layers));
+  EXPECT_TRUE(isShown(tools));
+  EXPECT_TRUE(isShown(layers));
 }
 
 TEST_F(Launchers, applyAuditorsAndSearchWalkIntoTheLaunchersDialogs)
@@ -206,15 +202,10 @@ protected:
     paletteDialog = static_cast<SoTopLevelDialog*>(palette->getChild(0));
     window->addAuditor(&recorder);
     window->buildDialog(nullptr, 0);
-    auto* bar = qobject_cast<QMenuBar*>(window->getBaseWidget()->layout()->menuBar());
+    auto* bar = menuBarOf(window);
     ASSERT_NE(bar, nullptr);
     menu = bar->actions()[0]->menu();
     ASSERT_EQ(menu->actions().size(), 3);
-  }
-
-  static bool shown(SoTopLevelDialog* dialog)
-  {
-    return dialog->getBaseWidget() && dialog->getBaseWidget()->isVisible();
   }
 
   // Types a path into the file dialog's name field and presses its Open or
@@ -277,8 +268,8 @@ TEST_F(MenuLaunchers, searchReachesTheLaunchedDialogsAndThePushButtonOpensThemAl
   recorder.watched = first;
   menu->actions()[0]->trigger();
   EXPECT_EQ(log, std::vector<std::string>{"push:both::hidden"});
-  EXPECT_TRUE(shown(first));
-  EXPECT_TRUE(shown(second));
+  EXPECT_TRUE(isShown(first));
+  EXPECT_TRUE(isShown(second));
   EXPECT_EQ(first->getParent(), both);
 }
 
@@ -286,10 +277,10 @@ TEST_F(MenuLaunchers, checkBoxShowsAndHidesItsDialogAfterTheAuditors)
 {
   recorder.watched = paletteDialog;
   menu->actions()[1]->trigger();
-  EXPECT_TRUE(shown(paletteDialog));
+  EXPECT_TRUE(isShown(paletteDialog));
   EXPECT_TRUE(menu->actions()[1]->isChecked());
   menu->actions()[1]->trigger();
-  EXPECT_FALSE(shown(paletteDialog));
+  EXPECT_FALSE(isShown(paletteDialog));
   EXPECT_EQ(log, (std::vector<std::string>{"menuCheck:palette:TRUE:hidden", "menuCheck:palette:FALSE:shown"}));
 
 }

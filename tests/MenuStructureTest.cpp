@@ -75,11 +75,6 @@ protected:
     recent = static_cast<SoMenuPopup*>(file->getChild(0));
   }
 
-  static QMenuBar* placedBar(SoTopLevelDialog* dialog)
-  {
-    return qobject_cast<QMenuBar*>(dialog->getBaseWidget()->layout()->menuBar());
-  }
-
   SoTopLevelDialog* window = nullptr;
   SoMenuBar* bar = nullptr;
   SoMenuPopup* file = nullptr;
@@ -89,7 +84,7 @@ protected:
 TEST_F(MenuStructure, windowPlacesItsBarWithPopupsAndCascades)
 {
   window->buildDialog(nullptr, 0);
-  QMenuBar* qt = placedBar(window);
+  QMenuBar* qt = menuBarOf(window);
   ASSERT_NE(qt, nullptr);
   EXPECT_EQ(texts(qt), (QStringList{"File", QString::fromUtf8("Größe")}))
     << "a popup's title keeps characters beyond Latin-1";
@@ -109,8 +104,8 @@ TEST_F(MenuStructure, windowPlacesItsBarWithPopupsAndCascades)
   // A child inserted into the shown window rebuilds it; the bar stays whole.
   window->show();
   window->insertChild(makeNode<SoDialogLabel>(), 1);
-  ASSERT_NE(placedBar(window), nullptr);
-  EXPECT_EQ(texts(placedBar(window)), (QStringList{"Document", QString::fromUtf8("Größe")}));
+  ASSERT_NE(menuBarOf(window), nullptr);
+  EXPECT_EQ(texts(menuBarOf(window)), (QStringList{"Document", QString::fromUtf8("Größe")}));
 }
 
 TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
@@ -121,7 +116,7 @@ TEST_F(MenuStructure, builtPopupAppendsNewChildrenAndKeepsRemovedOnes)
   EXPECT_EQ(early->getParent(), file);
 
   window->buildDialog(nullptr, 0);
-  QMenu* fileMenu = placedBar(window)->actions()[0]->menu();
+  QMenu* fileMenu = menuBarOf(window)->actions()[0]->menu();
   EXPECT_EQ(texts(fileMenu), (QStringList{"Recent", "Early"})) << "the first build makes them in child order";
 
   auto* first = new SoMenuPopup;
@@ -283,7 +278,7 @@ protected:
     ASSERT_TRUE(copy && grid && zoom);
     window->addAuditor(&recorder);
     window->buildDialog(nullptr, 0);
-    auto* bar = qobject_cast<QMenuBar*>(window->getBaseWidget()->layout()->menuBar());
+    auto* bar = menuBarOf(window);
     ASSERT_NE(bar, nullptr);
     menu = bar->actions()[0]->menu();
     ASSERT_EQ(menu->actions().size(), 7);
