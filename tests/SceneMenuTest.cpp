@@ -32,13 +32,6 @@ struct Heard : SoDialogAuditor {
   }
 };
 
-SbBox3f boxOf(SoNode* node)
-{
-  SoGetBoundingBoxAction box{SbViewportRegion()};
-  box.apply(node);
-  return box.getBoundingBox();
-}
-
 // A dialog with a bar of two menus. File holds, from the top: a push entry,
 // a check entry, a separator, a radio group of two and a cascade.
 class SceneMenu : public ::testing::Test {
@@ -236,11 +229,8 @@ protected:
   // A hidden page has nothing to measure.
   void expectOnlyPageShown(int selected)
   {
-    for (int i = 0; i < tabs->getNumChildren(); ++i) {
-      SoGetBoundingBoxAction box{SbViewportRegion()};
-      box.apply(tabs->getChild(i));
-      EXPECT_EQ(box.getBoundingBox().isEmpty(), i != selected) << "page " << i;
-    }
+    for (int i = 0; i < tabs->getNumChildren(); ++i)
+      EXPECT_EQ(boxOf(tabs->getChild(i)).isEmpty(), i != selected) << "page " << i;
     const SbVec3f middle = centreOf(tabs->getChild(selected));
     EXPECT_EQ(scene.pickedNode(middle[0], middle[1]), tabs->getChild(selected));
   }

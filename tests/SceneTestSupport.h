@@ -120,12 +120,16 @@ inline void buildInScene(SoTopLevelDialog* dialog)
   SoFormMode::setSceneForm(false);
 }
 
-// The centre of a node's geometry in the scene.
-inline SbVec3f centreOf(SoNode* node)
+// A node's geometry in the scene, and its centre.
+inline SbBox3f boxOf(SoNode* node)
 {
   SoGetBoundingBoxAction box{SbViewportRegion()};
   box.apply(node);
-  return box.getBoundingBox().getCenter();
+  return box.getBoundingBox();
+}
+inline SbVec3f centreOf(SoNode* node)
+{
+  return boxOf(node).getCenter();
 }
 
 // Where a node stands in the scene below `root`, every transform on its path
