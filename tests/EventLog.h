@@ -1,8 +1,8 @@
 #pragma once
 
-// A general auditor for the tests of menus and launchers: it writes down
-// each control it hears of as "kind:auditorID:value", and, if a dialog is
-// watched, whether that dialog was on screen at that moment.
+// A general auditor for the tests of auditors, menus and launchers: it
+// writes down each control it hears of as "kind:auditorID:value", and, if a
+// dialog is watched, whether that dialog was on screen at that moment.
 
 #include <SoDialogAuditor.h>
 #include <SoDialogCheckBox.h>

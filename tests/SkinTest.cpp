@@ -339,6 +339,8 @@ TEST(SkinRestart, theNextStartLooksForTheSkinDirectoryAgain)
   restartLibraryAndToolkit();
 }
 
+// The preferences and paths of our toolkit layer, on which the skin search
+// rests.
 TEST(Toolkit, preferencesOverrideTheEnvironmentForThisProcessOnly)
 {
   setenv("FORMWRIGHT_TEST_KEY", "from environment", 1);
