@@ -1,5 +1,6 @@
-// Push buttons and check boxes that open dialogs: building, showing and
-// hiding them, and the launchers' place in the auditor walks.
+// Push buttons, check boxes and menu entries that open dialogs or ask for a
+// file: building, showing and hiding them, and the launchers' place in the
+// auditor walks.
 
 #include "EventLog.h"
 #include "SoPreferences.h"
@@ -31,132 +32,9 @@
 
 namespace {
 
-const char* const kMenuWindow = R"(#Inventor V2.1 ascii
-TopLevelDialog {
-  RowDialog {
-    auditorID "row"
-    DialogCheckBoxLauncher {
-      auditorID "panels"
-      state TRUE
-      TopLevelDialog { label "Tools" auditorID "tools" DialogPushButton { buttonLabel "Run" auditorID "run" } }
-      TopLevelDialog { label "Layers" auditorID "layers" }
-    }
-    DialogPushButtonLauncher {
-      buttonLabel "Options..."
-      auditorID "options"
-      TopLevelDialog { label "Options" auditorID "optionsDialog" DialogCheckBox { auditorID "fast" } }
-    }
-    DialogCheckBox { auditorID "plain" }
-    DialogPushButtonLauncher { buttonLabel "Nothing" auditorID "empty" }
-  }
-}
-)";
-
-class Launchers : public ::testing::Test {
-protected:
-  void SetUp() override
-  {
-    SoSeparator* root = readScene(kMenuWindow);
-    ASSERT_NE(root, nullptr);
-    window = static_cast<SoTopLevelDialog*>(root->getChild(0));
-    row = static_cast<SoRowDialog*>(window->searchForAuditorId("row"));
-    panels = static_cast<SoDialogCheckBoxLauncher*>(window->searchForAuditorId("panels"));
-    options = static_cast<SoDialogPushButtonLauncher*>(window->searchForAuditorId("options"));
-    ASSERT_TRUE(row && panels && options);
-    tools = static_cast<SoTopLevelDialog*>(panels->getChild(0));
-    layers = static_cast<SoTopLevelDialog*>(panels->getChild(1));
-    optionsDialog = static_cast<SoTopLevelDialog*>(options->getChild(0));
-    window->addAuditor(&recorder);
-  }
-
-  template <class Widget>
-  static Widget* widgetOf(SoDialogComponent* node)
-  {
-    return node->getWidget()->findChild<Widget*>();
-  }
-
-  EventLog recorder;
-  std::vector<std::string>& log = recorder.entries;
-  SoTopLevelDialog* window = nullptr;
-  SoRowDialog* row = nullptr;
-  SoDialogCheckBoxLauncher* panels = nullptr;
-  SoDialogPushButtonLauncher* options = nullptr;
-  SoTopLevelDialog* tools = nullptr;
-  SoTopLevelDialog* layers = nullptr;
-  SoTopLevelDialog* optionsDialog = nullptr;
-};
-
-TEST_F(Launchers, pushButtonOpensItsDialogAfterTheAuditorsHeard)
-{
-  window->buildDialog(nullptr, 0);
-  ASSERT_NE(optionsDialog->getBaseWidget(), nullptr) << "built with the button";
-  EXPECT_FALSE(isShown(optionsDialog));
-  EXPECT_EQ(optionsDialog->getParent(), options);
-
-  recorder.watched = optionsDialog;
-  QTest::mousePress(widgetOf<QPushButton>(options), Qt::LeftButton);
-  EXPECT_EQ(log, std::vector<std::string>{"button:options::hidden"});
-  EXPECT_TRUE(isShown(optionsDialog));
-
-  QWidget* built = optionsDialog->getBaseWidget();
-  optionsDialog->hide();
-  optionsDialog->width = built->width() + 40;
-  QTest::mouseRelease(widgetOf<QPushButton>(options), Qt::LeftButton);
-  QTest::mousePress(widgetOf<QPushButton>(options), Qt::LeftButton);
-  EXPECT_TRUE(isShown(optionsDialog));
-  EXPECT_EQ(built->width(), optionsDialog->width.getValue()) << "in the width set while it was hidden";
-  EXPECT_EQ(optionsDialog->getBaseWidget(), built) << "a dialog once built stays built";
-
-  // A launcher without dialogs is a plain push button.
-  log.clear();
-  auto* empty = static_cast<SoDialogPushButtonLauncher*>(window->searchForAuditorId("empty"));
-  QTest::mousePress(widgetOf<QPushButton>(empty), Qt::LeftButton);
-  EXPECT_EQ(log, std::vector<std::string>{"button:empty::shown"});
-}
-
-TEST_F(Launchers, checkBoxShowsItsDialogsWhileChecked)
-{
-  window->buildDialog(nullptr, 0);
-  EXPECT_TRUE(isShown(tools));
-  EXPECT_TRUE(isShown(layers));
-  EXPECT_TRUE(log.empty()) << "a launcher read as checked is no click";
-
-  recorder.watched = tools;
-  QCheckBox* box = widgetOf<QCheckBox>(panels);
-  QWidget* built = tools->getBaseWidget();
-  QTest::mouseClick(box, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, box->height() / 2));
-  EXPECT_FALSE(panels->state.getValue());
-  EXPECT_EQ(log, std::vector<std::string>{"check:panels:FALSE:shown"}) << "hidden after the auditors ran";
-  EXPECT_FALSE(isShown(tools));
-  EXPECT_FALSE(isShown(layers));
-  EXPECT_EQ(tools->getBaseWidget(), built);
-
-  QTest::mouseClick(box, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, box->height() / 2));
-  EXPECT_TRUE(isShown(tools));
-  EXPECT_TRUE(isShown(layers));
-}
-
-TEST_F(Launchers, applyAuditorsAndSearchWalkIntoTheLaunchersDialogs)
-{
-  EXPECT_EQ(window->searchForAuditorId("fast")->getParent(), optionsDialog);
-  EXPECT_EQ(window->searchForAuditorId("layers"), layers);
-  EXPECT_EQ(row->searchForAuditorId("run")->getParent(), tools);
-  EXPECT_EQ(options->searchForAuditorId("options"), nullptr) << "the launcher itself is not compared";
-
-  EventLog atRow, atTools, atOptions;
-  row->addAuditor(&atRow);
-  tools->addAuditor(&atTools);
-  optionsDialog->addAuditor(&atOptions);
-  row->applyAuditors();
-  // The launchers are not heard themselves, not even one without dialogs.
-  EXPECT_EQ(atRow.entries, std::vector<std::string>{"check:plain:FALSE"});
-  EXPECT_EQ(atTools.entries, std::vector<std::string>{"button:run:"});
-  EXPECT_EQ(atOptions.entries, std::vector<std::string>{"check:fast:FALSE"});
-}
-
-// Menu entries that open dialogs or ask for a file. The file dialog is Qt's
-// own, answered from inside its event loop as a person would answer it.
-
+// A window with a row of launchers beside a plain check box and a launcher
+// without dialogs, and a menu of launchers and a file entry. The file dialog
+// is Qt's own, answered from inside its event loop as a person would.
 const char* const kWindow = R"(#Inventor V2.1 ascii
 TopLevelDialog {
   MenuBar {
@@ -182,10 +60,26 @@ TopLevelDialog {
       }
     }
   }
+  RowDialog {
+    auditorID "row"
+    DialogCheckBoxLauncher {
+      auditorID "panels"
+      state TRUE
+      TopLevelDialog { label "Tools" auditorID "tools" DialogPushButton { buttonLabel "Run" auditorID "run" } }
+      TopLevelDialog { label "Layers" auditorID "layers" }
+    }
+    DialogPushButtonLauncher {
+      buttonLabel "Options..."
+      auditorID "options"
+      TopLevelDialog { label "Options" auditorID "optionsDialog" DialogCheckBox { auditorID "fast" } }
+    }
+    DialogCheckBox { auditorID "plain" }
+    DialogPushButtonLauncher { buttonLabel "Nothing" auditorID "empty" }
+  }
 }
 )";
 
-class MenuLaunchers : public ::testing::Test {
+class Launchers : public ::testing::Test {
 protected:
   void SetUp() override
   {
@@ -193,19 +87,29 @@ protected:
     SoSeparator* root = readScene(kWindow);
     ASSERT_NE(root, nullptr);
     window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    row = static_cast<SoRowDialog*>(window->searchForAuditorId("row"));
+    panels = static_cast<SoDialogCheckBoxLauncher*>(window->searchForAuditorId("panels"));
+    options = static_cast<SoDialogPushButtonLauncher*>(window->searchForAuditorId("options"));
     both = static_cast<SoMenuPushButtonLauncher*>(window->searchForAuditorId("both"));
     palette = static_cast<SoMenuCheckBoxLauncher*>(window->searchForAuditorId("palette"));
     open = static_cast<SoMenuFileSelection*>(window->searchForAuditorId("open"));
-    ASSERT_TRUE(both && palette && open);
+    ASSERT_TRUE(row && panels && options && both && palette && open);
+    tools = static_cast<SoTopLevelDialog*>(panels->getChild(0));
+    layers = static_cast<SoTopLevelDialog*>(panels->getChild(1));
+    optionsDialog = static_cast<SoTopLevelDialog*>(options->getChild(0));
     first = static_cast<SoTopLevelDialog*>(both->getChild(0));
     second = static_cast<SoTopLevelDialog*>(both->getChild(1));
     paletteDialog = static_cast<SoTopLevelDialog*>(palette->getChild(0));
     window->addAuditor(&recorder);
     window->buildDialog(nullptr, 0);
-    auto* bar = menuBarOf(window);
-    ASSERT_NE(bar, nullptr);
-    menu = bar->actions()[0]->menu();
+    menu = menuBarOf(window)->actions()[0]->menu();
     ASSERT_EQ(menu->actions().size(), 3);
+  }
+
+  template <class Widget>
+  static Widget* widgetOf(SoDialogComponent* node)
+  {
+    return node->getWidget()->findChild<Widget*>();
   }
 
   // Types a path into the file dialog's name field and presses its Open or
@@ -249,16 +153,88 @@ protected:
   EventLog recorder;
   std::vector<std::string>& log = recorder.entries;
   SoTopLevelDialog* window = nullptr;
+  SoRowDialog* row = nullptr;
+  SoDialogCheckBoxLauncher* panels = nullptr;
+  SoDialogPushButtonLauncher* options = nullptr;
   SoMenuPushButtonLauncher* both = nullptr;
   SoMenuCheckBoxLauncher* palette = nullptr;
   SoMenuFileSelection* open = nullptr;
+  SoTopLevelDialog* tools = nullptr;
+  SoTopLevelDialog* layers = nullptr;
+  SoTopLevelDialog* optionsDialog = nullptr;
   SoTopLevelDialog* first = nullptr;
   SoTopLevelDialog* second = nullptr;
   SoTopLevelDialog* paletteDialog = nullptr;
   QMenu* menu = nullptr;
 };
 
-TEST_F(MenuLaunchers, searchReachesTheLaunchedDialogsAndThePushButtonOpensThemAll)
+TEST_F(Launchers, pushButtonOpensItsDialogAfterTheAuditorsHeard)
+{
+  ASSERT_NE(optionsDialog->getBaseWidget(), nullptr) << "built with the button";
+  EXPECT_FALSE(isShown(optionsDialog));
+  EXPECT_EQ(optionsDialog->getParent(), options);
+
+  recorder.watched = optionsDialog;
+  QTest::mousePress(widgetOf<QPushButton>(options), Qt::LeftButton);
+  EXPECT_EQ(log, std::vector<std::string>{"button:options::hidden"});
+  EXPECT_TRUE(isShown(optionsDialog));
+
+  QWidget* built = optionsDialog->getBaseWidget();
+  optionsDialog->hide();
+  optionsDialog->width = built->width() + 40;
+  QTest::mouseRelease(widgetOf<QPushButton>(options), Qt::LeftButton);
+  QTest::mousePress(widgetOf<QPushButton>(options), Qt::LeftButton);
+  EXPECT_TRUE(isShown(optionsDialog));
+  EXPECT_EQ(built->width(), optionsDialog->width.getValue()) << "in the width set while it was hidden";
+  EXPECT_EQ(optionsDialog->getBaseWidget(), built) << "a dialog once built stays built";
+
+  // A launcher without dialogs is a plain push button.
+  log.clear();
+  auto* empty = static_cast<SoDialogPushButtonLauncher*>(window->searchForAuditorId("empty"));
+  QTest::mousePress(widgetOf<QPushButton>(empty), Qt::LeftButton);
+  EXPECT_EQ(log, std::vector<std::string>{"button:empty::shown"});
+}
+
+TEST_F(Launchers, checkBoxShowsItsDialogsWhileChecked)
+{
+  EXPECT_TRUE(isShown(tools));
+  EXPECT_TRUE(isShown(layers));
+  EXPECT_TRUE(log.empty()) << "a launcher read as checked is no click";
+
+  recorder.watched = tools;
+  QCheckBox* box = widgetOf<QCheckBox>(panels);
+  QWidget* built = tools->getBaseWidget();
+  QTest::mouseClick(box, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, box->height() / 2));
+  EXPECT_FALSE(panels->state.getValue());
+  EXPECT_EQ(log, std::vector<std::string>{"check:panels:FALSE:shown"}) << "hidden after the auditors ran";
+  EXPECT_FALSE(isShown(tools));
+  EXPECT_FALSE(isShown(layers));
+  EXPECT_EQ(tools->getBaseWidget(), built);
+
+  QTest::mouseClick(box, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, box->height() / 2));
+  EXPECT_TRUE(isShown(tools));
+  EXPECT_TRUE(isShown(layers));
+}
+
+TEST_F(Launchers, applyAuditorsAndSearchWalkIntoTheLaunchersDialogs)
+{
+  EXPECT_EQ(window->searchForAuditorId("fast")->getParent(), optionsDialog);
+  EXPECT_EQ(window->searchForAuditorId("layers"), layers);
+  EXPECT_EQ(row->searchForAuditorId("run")->getParent(), tools);
+  EXPECT_EQ(options->searchForAuditorId("options"), nullptr) << "the launcher itself is not compared";
+
+  EventLog atRow, atTools, atOptions;
+  row->addAuditor(&atRow);
+  tools->addAuditor(&atTools);
+  optionsDialog->addAuditor(&atOptions);
+  row->applyAuditors();
+  // The launchers are not heard themselves, not even one without dialogs.
+  EXPECT_EQ(atRow.entries, std::vector<std::string>{"check:plain:FALSE"});
+  EXPECT_EQ(atTools.entries, std::vector<std::string>{"button:run:"});
+  EXPECT_EQ(atOptions.entries, std::vector<std::string>{"check:fast:FALSE"});
+}
+
+TEST_F(Launchers, searchReachesTheMenusDialogsAndTheMenuPushButtonOpensThemAll)
 {
   EXPECT_TRUE(window->searchForAuditorId("inFirst")->isOfType(SoDialogLabel::getClassTypeId()));
   EXPECT_EQ(window->searchForAuditorId("paletteDialog"), paletteDialog);
@@ -273,7 +249,7 @@ TEST_F(MenuLaunchers, searchReachesTheLaunchedDialogsAndThePushButtonOpensThemAl
   EXPECT_EQ(first->getParent(), both);
 }
 
-TEST_F(MenuLaunchers, checkBoxShowsAndHidesItsDialogAfterTheAuditors)
+TEST_F(Launchers, menuCheckBoxShowsAndHidesItsDialogAfterTheAuditors)
 {
   recorder.watched = paletteDialog;
   menu->actions()[1]->trigger();
@@ -282,10 +258,9 @@ TEST_F(MenuLaunchers, checkBoxShowsAndHidesItsDialogAfterTheAuditors)
   menu->actions()[1]->trigger();
   EXPECT_FALSE(isShown(paletteDialog));
   EXPECT_EQ(log, (std::vector<std::string>{"menuCheck:palette:TRUE:hidden", "menuCheck:palette:FALSE:shown"}));
-
 }
 
-class FileSelection : public MenuLaunchers {
+class FileSelection : public Launchers {
 protected:
   void SetUp() override
   {
@@ -295,7 +270,7 @@ protected:
     ASSERT_TRUE(scene.open(QIODevice::WriteOnly));
     scene.close();
     SoPreferences::setString("FWT_TEST_FILES", files.path().toLocal8Bit().constData());
-    MenuLaunchers::SetUp();
+    Launchers::SetUp();
   }
   void TearDown() override { SoPreferences::unsetString("FWT_TEST_FILES"); }
 
