@@ -1,35 +1,42 @@
+#include "EventLog.h"
 #include "TestSupport.h"
 
+#include <SoColumnDialog.h>
 #include <SoDialogAuditor.h>
-#include <SoDialogComboBox.h>
-#include <SoDialogEditText.h>
-#include <SoDialogIntegerSlider.h>
-#include <SoDialogRadioButtons.h>
-#include <SoDialogRealSlider.h>
-#include <SoMenuCheckBox.h>
-#include <SoMenuFileSelection.h>
-#include <SoMenuRadioButtons.h>
 #include <SoDialogCheckBox.h>
 #include <SoDialogCheckBoxAuditor.h>
 #include <SoDialogChoiceAuditor.h>
+#include <SoDialogComboBox.h>
+#include <SoDialogEditText.h>
 #include <SoDialogEditTextAuditor.h>
+#include <SoDialogIntegerSlider.h>
 #include <SoDialogIntegerSliderAuditor.h>
+#include <SoDialogLabel.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogPushButtonAuditor.h>
+#include <SoDialogRadioButtons.h>
+#include <SoDialogRealSlider.h>
 #include <SoDialogRealSliderAuditor.h>
+#include <SoMenuBar.h>
+#include <SoMenuCheckBox.h>
 #include <SoMenuCheckBoxAuditor.h>
+#include <SoMenuFileSelection.h>
 #include <SoMenuFileSelectionAuditor.h>
+#include <SoMenuPopup.h>
 #include <SoMenuPushButton.h>
 #include <SoMenuPushButtonAuditor.h>
+#include <SoMenuRadioButtons.h>
 #include <SoMenuRadioButtonsAuditor.h>
 #include <SoPreferences.h>
+#include <SoRowDialog.h>
+#include <SoTabDialog.h>
 #include <SoTabDialogAuditor.h>
+#include <SoTopLevelDialog.h>
 
-#include <gtest/gtest.h>
+#include <QPushButton>
+#include <QTest>
 
 #include <cctype>
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -40,62 +47,40 @@ class DefaultAuditor : public SoDialogAuditor {};
 TEST(DialogAuditor, defaultBodiesReportUnheardControlsOnlyWhenAsked)
 {
   DefaultAuditor auditor;
-  SoDialogPushButton* button = makeNode<SoDialogPushButton>();
-  button->label = "Name:";
-  button->buttonLabel = "Apply";
+  SoSeparator* nodes = readScene("#Inventor V2.1 ascii\nSeparator {\n"
+                                 "DialogPushButton { label \"Name:\" buttonLabel \"Apply\" }\n"
+                                 "DialogCheckBox { label \"Sound\" onString \"Loud\" }\n"
+                                 "MenuPushButton { label \"Open...\" }\n"
+                                 "DialogComboBox { label \"Units\" items [\"mm\", \"in\"] selectedItem 1 }\n"
+                                 "DialogRadioButtons { label \"Quality\" items [\"Draft\", \"Best\"] selectedItem 4 }\n"
+                                 "DialogIntegerSlider { label \"Copies\" max 10 value 7 }\n"
+                                 "DialogRealSlider { label \"Scale\" value 0.25 format \"%.2f\" }\n"
+                                 "DialogEditText { label \"Name:\" editText \"Ada\" }\n"
+                                 "MenuCheckBox { label \"Off\" onString \"On\" }\n"
+                                 "MenuRadioButtons { items [\"Small\", \"Medium\"] selectedItem 1 }\n"
+                                 "MenuFileSelection { title \"Open a scene\" } }\n");
+  ASSERT_NE(nodes, nullptr);
+  const auto node = [&](int i) { return nodes->getChild(i); };
   {
     DebugMessages messages;
-    auditor.dialogPushButton(button);
+    auditor.dialogPushButton(static_cast<SoDialogPushButton*>(node(0)));
     EXPECT_EQ(messages.count(), 0u) << "silent unless the preference is set";
   }
 
-  SoDialogCheckBox* box = makeNode<SoDialogCheckBox>();
-  box->label = "Sound";
-  box->onString = "Loud";
-  SoMenuPushButton* entry = makeNode<SoMenuPushButton>();
-  entry->label = "Open...";
-  SoDialogComboBox* combo = makeNode<SoDialogComboBox>();
-  combo->label = "Units";
-  combo->items.setValues(0, 2, std::vector<const char*>{"mm", "in"}.data());
-  combo->selectedItem = 1;
-  SoDialogRadioButtons* radio = makeNode<SoDialogRadioButtons>();
-  radio->label = "Quality";
-  radio->items.setValues(0, 2, std::vector<const char*>{"Draft", "Best"}.data());
-  radio->selectedItem = 4;
-  SoDialogIntegerSlider* copies = makeNode<SoDialogIntegerSlider>();
-  copies->label = "Copies";
-  copies->max = 10;
-  copies->value = 7;
-  SoDialogRealSlider* scale = makeNode<SoDialogRealSlider>();
-  scale->label = "Scale";
-  scale->value = 0.25f;
-  scale->format = "%.2f";
-  SoDialogEditText* edit = makeNode<SoDialogEditText>();
-  edit->label = "Name:";
-  edit->editText = "Ada";
-  SoMenuCheckBox* check = makeNode<SoMenuCheckBox>();
-  check->label = "Off";
-  check->onString = "On";
-  SoMenuRadioButtons* zoom = makeNode<SoMenuRadioButtons>();
-  zoom->items.setValues(0, 2, std::vector<const char*>{"Small", "Medium"}.data());
-  zoom->selectedItem = 1;
-  SoMenuFileSelection* file = makeNode<SoMenuFileSelection>();
-  file->title = "Open a scene";
-
   SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
   DebugMessages messages;
-  auditor.dialogPushButton(button);
-  auditor.dialogCheckBox(box);
-  auditor.menuPushButton(entry);
+  auditor.dialogPushButton(static_cast<SoDialogPushButton*>(node(0)));
+  auditor.dialogCheckBox(static_cast<SoDialogCheckBox*>(node(1)));
+  auditor.menuPushButton(static_cast<SoMenuPushButton*>(node(2)));
   auditor.tabDialog(nullptr);
-  auditor.dialogComboBox(combo);
-  auditor.dialogRadioButtons(radio);
-  auditor.dialogIntegerSlider(copies);
-  auditor.dialogRealSlider(scale);
-  auditor.dialogEditText(edit);
-  auditor.menuCheckBox(check);
-  auditor.menuRadioButtons(zoom);
-  auditor.menuFileSelection(file);
+  auditor.dialogComboBox(static_cast<SoDialogComboBox*>(node(3)));
+  auditor.dialogRadioButtons(static_cast<SoDialogRadioButtons*>(node(4)));
+  auditor.dialogIntegerSlider(static_cast<SoDialogIntegerSlider*>(node(5)));
+  auditor.dialogRealSlider(static_cast<SoDialogRealSlider*>(node(6)));
+  auditor.dialogEditText(static_cast<SoDialogEditText*>(node(7)));
+  auditor.menuCheckBox(static_cast<SoMenuCheckBox*>(node(8)));
+  auditor.menuRadioButtons(static_cast<SoMenuRadioButtons*>(node(9)));
+  auditor.menuFileSelection(static_cast<SoMenuFileSelection*>(node(10)));
   SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
 
   // The menu entries' reports may carry more lines after the fields shown.
@@ -132,31 +117,205 @@ TEST(DialogAuditor, defaultBodiesReportUnheardControlsOnlyWhenAsked)
 
 TEST(AuditorTypes, registeredUnderTheirNamesButTheTabDialogsStaysBad)
 {
-  const struct {
-    SoType type;
-    const char* name;
-    const char* parent;
-  } auditors[] = {
-    {SoAuditor::getClassTypeId(), "Auditor", "BadType"},
-    {SoDialogAuditor::getClassTypeId(), "SoDialogAuditor", "Auditor"},
-    {SoDialogPushButtonAuditor::getClassTypeId(), "SoDialogPushButtonAuditor", "Auditor"},
-    {SoDialogCheckBoxAuditor::getClassTypeId(), "SoDialogCheckBoxAuditor", "Auditor"},
-    {SoDialogChoiceAuditor::getClassTypeId(), "SoDialogChoiceAuditor", "Auditor"},
-    {SoDialogEditTextAuditor::getClassTypeId(), "SoDialogEditTextAuditor", "Auditor"},
-    {SoDialogIntegerSliderAuditor::getClassTypeId(), "SoDialogIntegerSliderAuditor", "Auditor"},
-    {SoDialogRealSliderAuditor::getClassTypeId(), "SoDialogRealSliderAuditor", "Auditor"},
-    {SoMenuCheckBoxAuditor::getClassTypeId(), "SoMenuCheckBoxAuditor", "Auditor"},
-    {SoMenuFileSelectionAuditor::getClassTypeId(), "SoMenuFileSelectionAuditor", "Auditor"},
-    {SoMenuPushButtonAuditor::getClassTypeId(), "SoMenuPushButtonAuditor", "Auditor"},
-    {SoMenuRadioButtonsAuditor::getClassTypeId(), "SoMenuRadioButtonsAuditor", "Auditor"},
-  };
-  for (const auto& auditor : auditors) {
-    EXPECT_EQ(SoType::fromName(auditor.name), auditor.type) << auditor.name;
-    EXPECT_STREQ(auditor.type.getParent().getName().getString(), auditor.parent) << auditor.name;
-  }
+  EXPECT_EQ(SoType::fromName("Auditor"), SoAuditor::getClassTypeId());
+  EXPECT_TRUE(SoAuditor::getClassTypeId().getParent().isBad());
+#define CHECK_REPORT(T)                                                                                        \
+  EXPECT_EQ(SoType::fromName(#T), T::getClassTypeId()) << #T;                                                      \
+  EXPECT_EQ(T::getClassTypeId().getParent(), SoAuditor::getClassTypeId()) << #T;
+  CHECK_REPORT(SoDialogAuditor)
+  CHECK_REPORT(SoDialogPushButtonAuditor)
+  CHECK_REPORT(SoDialogCheckBoxAuditor)
+  CHECK_REPORT(SoDialogChoiceAuditor)
+  CHECK_REPORT(SoDialogEditTextAuditor)
+  CHECK_REPORT(SoDialogIntegerSliderAuditor)
+  CHECK_REPORT(SoDialogRealSliderAuditor)
+  CHECK_REPORT(SoMenuCheckBoxAuditor)
+  CHECK_REPORT(SoMenuFileSelectionAuditor)
+  CHECK_REPORT(SoMenuPushButtonAuditor)
+  CHECK_REPORT(SoMenuRadioButtonsAuditor)
+#undef CHECK_REPORT
   EXPECT_TRUE(SoTabDialogAuditor::getClassTypeId().isBad());
   EXPECT_TRUE(SoType::fromName("SoTabDialogAuditor").isBad());
   EXPECT_EQ(DefaultAuditor().getTypeId(), SoDialogAuditor::getClassTypeId()) << "a derived auditor has no type of its own";
+}
+
+// Auditors that write one log, each entry led by the auditor's name.
+struct Recorder : EventLog {
+  Recorder(std::vector<std::string>& shared, const char* own)
+  {
+    log = &shared;
+    name = own;
+  }
+};
+
+class ButtonRecorder : public SoDialogPushButtonAuditor {
+public:
+  explicit ButtonRecorder(std::vector<std::string>& log) : m_log(log) {}
+  void dialogPushButton(SoDialogPushButton* node) override
+  {
+    m_log.push_back(std::string("own:") + node->auditorID.getValue().getString());
+  }
+
+private:
+  std::vector<std::string>& m_log;
+};
+
+const char* const kDialog = R"(#Inventor V2.1 ascii
+TopLevelDialog {
+  auditorID "window"
+  DialogLabel { label "Settings" }
+  ColumnDialog {
+    auditorID "outer"
+    RowDialog {
+      auditorID "inner"
+      DialogPushButton { buttonLabel "Apply" auditorID "apply" }
+      DialogCheckBox { label "Binary" auditorID "binary" }
+    }
+    DialogPushButton { buttonLabel "Close" auditorID "close" }
+  }
+}
+)";
+
+class AuditorRouting : public ::testing::Test {
+protected:
+  void SetUp() override
+  {
+    m_root = readScene(kDialog);
+    ASSERT_NE(m_root, nullptr);
+    dialog = static_cast<SoTopLevelDialog*>(m_root->getChild(0));
+    outer = static_cast<SoColumnDialog*>(dialog->searchForAuditorId("outer"));
+    inner = static_cast<SoRowDialog*>(dialog->searchForAuditorId("inner"));
+    apply = static_cast<SoDialogPushButton*>(dialog->searchForAuditorId("apply"));
+    ASSERT_TRUE(outer && inner && apply);
+  }
+
+  void build() { dialog->buildDialog(nullptr, 0); }
+  void pressApply() { QTest::mousePress(apply->getWidget()->findChild<QPushButton*>(), Qt::LeftButton); }
+
+  SoSeparator* m_root = nullptr;
+  SoTopLevelDialog* dialog = nullptr;
+  SoColumnDialog* outer = nullptr;
+  SoRowDialog* inner = nullptr;
+  SoDialogPushButton* apply = nullptr;
+  std::vector<std::string> log;
+};
+
+TEST_F(AuditorRouting, pressClimbsToTheFirstGroupWithAuditorsWhichHearInOrder)
+{
+  build();
+  {
+    // Heard by nobody, the press reaches the window's default auditor.
+    SoPreferences::setString("DEBUG_FORMWRIGHT_AUDITORS", "1");
+    DebugMessages messages;
+    pressApply();
+    SoPreferences::unsetString("DEBUG_FORMWRIGHT_AUDITORS");
+    EXPECT_EQ(messages.countHolding("SoDialogAuditor::dialogPushButton"), 1);
+  }
+  Recorder window(log, "window"), first(log, "first"), second(log, "second");
+  dialog->addAuditor(&window);
+  pressApply();
+  EXPECT_EQ(log, std::vector<std::string>{"window:button:apply:"}) << "two groups without auditors are passed";
+
+  log.clear();
+  inner->addAuditor(&first);
+  inner->addAuditor(&second);
+  pressApply();
+  EXPECT_EQ(log, (std::vector<std::string>{"first:button:apply:", "second:button:apply:"}));
+}
+
+// An auditor that is done after one event takes itself away while it hears.
+class OneShot : public Recorder {
+public:
+  OneShot(std::vector<std::string>& log, SoDialogGroup* node) : Recorder(log, "once"), m_node(node) {}
+  void dialogPushButton(SoDialogPushButton* button) override
+  {
+    Recorder::dialogPushButton(button);
+    m_node->removeAuditor(this);
+  }
+
+private:
+  SoDialogGroup* m_node;
+};
+
+TEST_F(AuditorRouting, auditorRemovingItselfLetsTheOthersHearTheSameEvent)
+{
+  OneShot once(log, inner);
+  Recorder after(log, "after");
+  inner->addAuditor(&once);
+  inner->addAuditor(&after);
+  build();
+  pressApply();
+  pressApply();
+  EXPECT_EQ(log, (std::vector<std::string>{"once:button:apply:", "after:button:apply:", "after:button:apply:"}));
+}
+
+TEST_F(AuditorRouting, searchIsDepthFirstAndAControlWithItsOwnAuditorIsHeardByNoGroup)
+{
+  EXPECT_EQ(dialog->searchForAuditorId("window"), nullptr) << "the searching node itself is not compared";
+  EXPECT_EQ(dialog->searchForAuditorId("close")->getParent(), outer);
+  EXPECT_TRUE(dialog->searchForAuditorId("")->isOfType(SoDialogLabel::getClassTypeId()))
+    << "the first child whose identifier was left empty";
+  EXPECT_EQ(inner->searchForAuditorId("close"), nullptr);
+  EXPECT_EQ(dialog->searchForAuditorId("nothing"), nullptr);
+
+  Recorder group(log, "group");
+  ButtonRecorder own(log);
+  outer->addAuditor(&group);
+  apply->addAuditor(&own);
+  build();
+  pressApply();
+  EXPECT_EQ(log, std::vector<std::string>{"own:apply"});
+
+  // Firing all at once starts at the group: the button's own auditor is
+  // passed by.
+  log.clear();
+  outer->applyAuditors();
+  EXPECT_EQ(log, (std::vector<std::string>{"group:button:apply:", "group:check:binary:FALSE", "group:button:close:"}));
+}
+
+TEST(MenuAuditors, menusClimbToTheWindowWhichSortsEntriesByClass)
+{
+  std::vector<std::string> log;
+  auto* window = makeNode<SoTopLevelDialog>();
+  auto* bar = new SoMenuBar;
+  auto* popup = makeNode<SoMenuPopup>();
+  auto* file = makeNode<SoMenuFileSelection>();
+  auto* check = makeNode<SoMenuCheckBox>();
+  window->addChild(bar);
+  popup->setParent(bar);
+  file->auditorID = "open";
+  file->fileDirectory = "scenes";
+  check->auditorID = "grid";
+
+  Recorder atWindow(log, "window"), atPopup(log, "popup");
+  window->addAuditor(&atWindow);
+  popup->applyAuditor(file);
+  EXPECT_EQ(log, std::vector<std::string>{"window:file:open:scenes|"}) << "a file selection is no plain menu button";
+
+  log.clear();
+  popup->addAuditor(&atPopup);
+  popup->applyAuditor(check);
+  EXPECT_EQ(log, std::vector<std::string>{"popup:menuCheck:grid:FALSE"});
+}
+
+TEST(MenuAuditors, tabDialogAuditorsHearNothingButPages)
+{
+  struct PageListener : SoTabDialogAuditor {
+    int calls = 0;
+    void tabDialog(SoTabDialog*) override { ++calls; }
+  } pages;
+  std::vector<std::string> log;
+  Recorder above(log, "window");
+  auto* window = makeNode<SoTopLevelDialog>();
+  auto* tabs = new SoTabDialog;
+  auto* button = makeNode<SoDialogPushButton>();
+  window->addChild(tabs);
+  tabs->addChild(button);
+  window->addAuditor(&above);
+  tabs->addAuditor(&pages);
+  tabs->applyAuditor(button);
+  EXPECT_EQ(pages.calls, 0);
+  EXPECT_EQ(log, std::vector<std::string>{"window:button::"}) << "a page auditor lets the controls' events go on up";
 }
 
 }

@@ -1,24 +1,13 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
-#include <SoDialogAuditor.h>
 #include <SoDialogChoiceAuditor.h>
 #include <SoDialogComboBox.h>
 #include <SoDialogRadioButtons.h>
-#include <SoPreferences.h>
 
 #include <QComboBox>
-#include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPointer>
 #include <QRadioButton>
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -55,8 +44,7 @@ bool showWithOverridingAuditor(ControlWindow& window, SoDialogChoice* node, Choi
   auditor.overrideWith = 0;
   node->addAuditor(&auditor);
   window.build(node);
-  window.widget.show();
-  return QTest::qWaitForWindowExposed(&window.widget);
+  return window.show();
 }
 
 std::vector<std::string> itemsOf(const SoDialogChoice* node)
@@ -84,6 +72,12 @@ int checkedIndex(const ControlWindow& window)
     if (buttons[i]->isChecked())
       return i;
   return -1;
+}
+
+// The entry that the widget shows chosen.
+int shownIndex(const ControlWindow& window, bool combo)
+{
+  return combo ? comboOf(window)->currentIndex() : checkedIndex(window);
 }
 
 TEST(DialogChoice, placeholderStandsForTheEmptyList)
@@ -226,7 +220,7 @@ TEST(DialogChoice, selectionOutOfRangeIsMendedOrShownAsNoChoice)
       if (!beforeBuild)
         node->selectedItem = c.set;
       EXPECT_EQ(node->selectedItem.getValue(), c.stored);
-      EXPECT_EQ(c.combo ? comboOf(window)->currentIndex() : checkedIndex(window), c.shown);
+      EXPECT_EQ(shownIndex(window, c.combo), c.shown);
     }
 
   ControlWindow window;
@@ -239,24 +233,33 @@ TEST(DialogChoice, selectionOutOfRangeIsMendedOrShownAsNoChoice)
   EXPECT_EQ(shrunk->selectedItem.getValue(), 0) << "the list's new length bounds the selection";
 }
 
-TEST(DialogComboBox, userChoiceTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidget)
+// The auditors hear the person's choice; their own change stands in the
+// field but reaches the widget only with the next change.
+TEST(DialogChoice, aPersonsChoiceTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidget)
 {
-  ControlWindow window;
-  SoDialogComboBox* node = makeChoice<SoDialogComboBox>("", {"a", "b", "c"});
-  ChoiceAuditor auditor;
-  ASSERT_TRUE(showWithOverridingAuditor(window, node, auditor));
-  QComboBox* combo = comboOf(window);
-  combo->setFocus();
+  for (const bool combo : {true, false}) {
+    SCOPED_TRACE(combo ? "combo box" : "radio buttons");
+    ControlWindow window;
+    SoDialogChoice* node = combo ? static_cast<SoDialogChoice*>(makeChoice<SoDialogComboBox>("", {"a", "b", "c"}))
+                                 : makeChoice<SoDialogRadioButtons>("", {"a", "b", "c"});
+    ChoiceAuditor auditor;
+    ASSERT_TRUE(showWithOverridingAuditor(window, node, auditor));
+    if (combo) {
+      comboOf(window)->setFocus();
+      QTest::keyClick(comboOf(window), Qt::Key_Down);
+    } else {
+      QRadioButton* second = buttonsOf(window)[1];
+      QTest::mouseClick(second, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, second->height() / 2));
+    }
+    EXPECT_EQ(auditor.heard, std::vector<int>{1});
+    EXPECT_EQ(node->selectedItem.getValue(), 0);
+    EXPECT_EQ(shownIndex(window, combo), 1);
 
-  QTest::keyClick(combo, Qt::Key_Down);
-  EXPECT_EQ(auditor.heard, std::vector<int>{1}) << "the auditors see the user's choice";
-  EXPECT_EQ(node->selectedItem.getValue(), 0) << "the auditor's own change stands in the field";
-  EXPECT_EQ(combo->currentIndex(), 1) << "and does not reach the widget";
-
-  auditor.overrideWith = -1;
-  node->selectedItem = 2;
-  EXPECT_EQ(combo->currentIndex(), 2) << "the next change does";
-  EXPECT_EQ(auditor.heard.size(), 1u) << "a change from the application is no choice";
+    auditor.overrideWith = -1;
+    node->selectedItem = 2;
+    EXPECT_EQ(shownIndex(window, combo), 2);
+    EXPECT_EQ(auditor.heard.size(), 1u) << "a change from the application is no choice";
+  }
 }
 
 TEST(DialogRadioButtons, buildsOneButtonPerChoiceInATitledBox)
@@ -279,8 +282,7 @@ TEST(DialogRadioButtons, buildsOneButtonPerChoiceInATitledBox)
   EXPECT_EQ(buttons[2]->text(), QString("Best"));
   EXPECT_EQ(buttons[2]->parentWidget(), box);
   EXPECT_EQ(checkedIndex(window), 1);
-  window.widget.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window.widget));
+  ASSERT_TRUE(window.show());
   for (QRadioButton* button : buttons)
     EXPECT_TRUE(box->contentsRect().contains(QRect(button->pos(), button->sizeHint()))) << "a whole button";
 
@@ -309,20 +311,8 @@ TEST(DialogRadioButtons, buildsOneButtonPerChoiceInATitledBox)
   EXPECT_EQ(buttonsOf(window)[3]->text(), QString("Extra"));
   node->items.set1Value(0, "Rough");
   EXPECT_EQ(buttonsOf(window)[0]->text(), QString("Rough"));
-}
-
-TEST(DialogRadioButtons, clickTellsTheAuditorsAndKeepsTheirOwnChangeFromTheWidget)
-{
-  ControlWindow window;
-  SoDialogRadioButtons* node = makeChoice<SoDialogRadioButtons>("", {"a", "b", "c"});
-  ChoiceAuditor auditor;
-  ASSERT_TRUE(showWithOverridingAuditor(window, node, auditor));
-
-  QRadioButton* third = buttonsOf(window)[2];
-  QTest::mouseClick(third, Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(8, third->height() / 2));
-  EXPECT_EQ(auditor.heard, std::vector<int>{2});
-  EXPECT_EQ(node->selectedItem.getValue(), 0);
-  EXPECT_EQ(checkedIndex(window), 2);
+  expectOneFrameThroughRebuilds(window, node, "FWTSoDialogQRadioButtonsFrame");
+  EXPECT_EQ(checkedIndex(window), 1) << "a new build reads the fields";
 }
 
 TEST(DialogRadioButtons, heightOfTheSceneFormIsSpreadAPixelAtATime)
@@ -356,25 +346,6 @@ TEST(DialogRadioButtons, heightOfTheSceneFormIsSpreadAPixelAtATime)
   node->maxHeight = 30 + 2 * (text + 4);
   build(1000);
   EXPECT_EQ(node->heights(), (std::vector<int>{text + 3, text + 3})) << "nor its maximum";
-}
-
-TEST(DialogChoice, destroyWidgetDeletesTheFrameOnceAndABuildReadsTheFields)
-{
-  ControlWindow window;
-  SoDialogRadioButtons* radio = makeChoice<SoDialogRadioButtons>("", {"a", "b"});
-  SoDialogComboBox* combo = makeChoice<SoDialogComboBox>("", {"a", "b"});
-  expectOneFrameThroughRebuilds(window, radio, "FWTSoDialogQRadioButtonsFrame");
-  expectOneFrameThroughRebuilds(window, combo, "FWTSoDialogQComboBoxFrame");
-  radio->destroyWidget();
-  combo->destroyWidget();
-  EXPECT_EQ(radio->getLabelWidget(), nullptr);
-  radio->selectedItem = 1;
-  combo->items.set1Value(2, "c");
-  window.build(radio);
-  window.build(combo);
-  EXPECT_EQ(buttonsOf(window).size(), 2);
-  EXPECT_EQ(checkedIndex(window), 1);
-  EXPECT_EQ(comboOf(window)->count(), 3);
 }
 
 }

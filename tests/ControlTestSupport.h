@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QRect>
 #include <QResizeEvent>
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -33,6 +34,13 @@ struct ControlWindow {
   {
     SbVec2i32 useSize(0, 0), size(0, 0);
     node->buildWidget(&widget, useSize, size, mode);
+  }
+  // Shows the window, so that keys and clicks reach it; false when it never
+  // came up.
+  bool show()
+  {
+    widget.show();
+    return QTest::qWaitForWindowExposed(&widget);
   }
   template <class Widget>
   Widget* find(const char* objectName) const
@@ -131,6 +139,21 @@ inline QRect expectedBody(int frameWidth, int frameHeight, int labelColumnWidth,
   if (labelVisible)
     return QRect(labelColumnWidth + 4, 3, frameWidth - 6 - labelColumnWidth - 2, frameHeight - 6);
   return QRect(2, 3, frameWidth - 6, frameHeight - 6);
+}
+
+// Resized by its layout, a control with its label in a column beside its
+// body shows both in their places; a hidden label leaves the body its room.
+inline void expectLabelBesideBody(SoDialogComponent* node, QWidget* label, QWidget* body, SbVec2i32 labelSize)
+{
+  resizeFrame(node->getWidget(), 240, 33);
+  EXPECT_EQ(SbVec2i32(node->width.getValue(), node->height.getValue()), SbVec2i32(240, 33));
+  EXPECT_EQ(label->geometry(), expectedSideLabel(33, labelSize[0], labelSize[1]));
+  EXPECT_EQ(body->geometry(), expectedBody(240, 33, labelSize[0], true));
+  node->labelVisibility = FALSE;
+  EXPECT_TRUE(label->isHidden());
+  EXPECT_EQ(body->geometry(), expectedBody(240, 33, labelSize[0], false));
+  node->labelVisibility = TRUE;
+  EXPECT_EQ(body->geometry(), expectedBody(240, 33, labelSize[0], true));
 }
 
 // A second build only refreshes; destroyWidget deletes the one frame and

@@ -1,20 +1,11 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
-#include <SoDialogAuditor.h>
 #include <SoDialogEditText.h>
 #include <SoDialogEditTextAuditor.h>
-#include <SoPreferences.h>
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
-#include <QTest>
 #include <QTextEdit>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -31,15 +22,6 @@ SoDialogEditText* makeEditText(const char* label, const char* text)
   node->editText = text;
   return node;
 }
-
-// A window shown on the screen, so that keys reach its entries.
-struct ShownWindow : ControlWindow {
-  void show()
-  {
-    widget.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
-  }
-};
 
 QLineEdit* lineOf(const ControlWindow& window)
 {
@@ -103,12 +85,12 @@ TEST(DialogEditText, singleLineIsAtLeastTwentyPixelsHigh)
 
 TEST(DialogEditText, typingFillsTheFieldAndEnterTellsTheAuditorsOnce)
 {
-  ShownWindow window;
+  ControlWindow window;
   SoDialogEditText* node = makeEditText("", "");
   EditTextAuditor auditor;
   node->addAuditor(&auditor);
   window.build(node);
-  window.show();
+  ASSERT_TRUE(window.show());
   QLineEdit* line = lineOf(window);
 
   QTest::keyClick(line, Qt::Key_O);
@@ -130,13 +112,13 @@ TEST(DialogEditText, typingFillsTheFieldAndEnterTellsTheAuditorsOnce)
 
 TEST(DialogEditText, withoutTrigOnEnterEveryChangeTellsTheAuditors)
 {
-  ShownWindow window;
+  ControlWindow window;
   SoDialogEditText* node = makeEditText("", "");
   node->trigOnEnter = FALSE;
   EditTextAuditor auditor;
   node->addAuditor(&auditor);
   window.build(node);
-  window.show();
+  ASSERT_TRUE(window.show());
 
   QTest::keyClick(lineOf(window), Qt::Key_A);
   EXPECT_EQ(auditor.heard, std::vector<std::string>{"a"});
@@ -148,13 +130,13 @@ TEST(DialogEditText, withoutTrigOnEnterEveryChangeTellsTheAuditors)
 
 TEST(DialogEditText, severalLinesTellTheAuditorsOfEnterBeforeTheLineBreak)
 {
-  ShownWindow window;
+  ControlWindow window;
   SoDialogEditText* node = makeEditText("Notes", "first");
   node->multiLine = TRUE;
   EditTextAuditor auditor;
   node->addAuditor(&auditor);
   window.build(node);
-  window.show();
+  ASSERT_TRUE(window.show());
   QTextEdit* lines = linesOf(window);
   ASSERT_NE(lines, nullptr);
   EXPECT_EQ(lineOf(window), nullptr);
@@ -176,10 +158,10 @@ TEST(DialogEditText, severalLinesTellTheAuditorsOfEnterBeforeTheLineBreak)
 
 TEST(DialogEditText, changingMultiLineKeepsTextSizeAndLabel)
 {
-  ShownWindow window;
+  ControlWindow window;
   SoDialogEditText* node = makeEditText("Comment", "kept");
   window.build(node);
-  window.show();
+  ASSERT_TRUE(window.show());
   QPointer<QWidget> before = node->getWidget();
   const QSize kept = before->size();
 
@@ -212,13 +194,13 @@ public:
 
 TEST(DialogEditText, anAuditorSwitchingTheKindOfEntryGetsItAfterTheEvent)
 {
-  ShownWindow window;
+  ControlWindow window;
   SoDialogEditText* node = makeEditText("", "");
   node->trigOnEnter = FALSE;
   KindSwitcher switcher;
   node->addAuditor(&switcher);
   window.build(node);
-  window.show();
+  ASSERT_TRUE(window.show());
   QTest::keyClick(lineOf(window), Qt::Key_A);
   QApplication::processEvents();
   ASSERT_NE(linesOf(window), nullptr);
@@ -240,19 +222,6 @@ TEST(DialogEditText, naturalSizeOfSeveralLinesMakesRoomForTheScrollBar)
   const QFontMetrics metrics(SoFormwright::getFormwrightFont());
   const int widest = std::max(metrics.horizontalAdvance("one\r"), metrics.horizontalAdvance("two"));
   EXPECT_EQ(component->getComponentInitSize(), SbVec2i32(widest + 3 + 34, 2 * metrics.height() + 3 + 12));
-}
-
-TEST(DialogEditText, destroyWidgetDeletesTheFrameOnceAndABuildReadsTheFields)
-{
-  ControlWindow window;
-  SoDialogEditText* node = makeEditText("", "a");
-  expectOneFrameThroughRebuilds(window, node, "FWTSoDialogQEditTextFrame");
-  node->destroyWidget();
-  node->editText = "b";
-  node->multiLine = TRUE;
-  window.build(node);
-  ASSERT_NE(linesOf(window), nullptr);
-  EXPECT_EQ(linesOf(window)->toPlainText(), QString("b"));
 }
 
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-// A general auditor for the tests of menus and launchers: it writes down
-// each control it hears of as "kind:auditorID:value", and, if a dialog is
-// watched, whether that dialog was on screen at that moment.
+// A general auditor for the tests of auditors, menus and launchers: it
+// writes down each control it hears of as "kind:auditorID:value", and, if a
+// dialog is watched, whether that dialog was on screen at that moment.
 
 #include <SoDialogAuditor.h>
 #include <SoDialogCheckBox.h>
@@ -13,10 +13,24 @@
 #include <SoMenuRadioButtons.h>
 #include <SoTopLevelDialog.h>
 
+#include <QLayout>
+#include <QMenuBar>
 #include <QWidget>
 
 #include <string>
 #include <vector>
+
+// Whether a dialog's window is on screen.
+inline bool isShown(SoTopLevelDialog* dialog)
+{
+  return dialog->getBaseWidget() && dialog->getBaseWidget()->isVisible();
+}
+
+// The Qt menu bar that a built window placed, or null.
+inline QMenuBar* menuBarOf(SoTopLevelDialog* window)
+{
+  return qobject_cast<QMenuBar*>(window->getBaseWidget()->layout()->menuBar());
+}
 
 class EventLog : public SoDialogAuditor {
 public:
@@ -40,6 +54,10 @@ public:
   }
 
   std::vector<std::string> entries;
+  // Where the entries go, so that several auditors can write one log, and
+  // the name that each entry then starts with.
+  std::vector<std::string>* log = &entries;
+  std::string name;
   SoTopLevelDialog* watched = nullptr;
   // A value that menuCheckBox writes back into the entry's state, if set.
   int stateToSet = -1;
@@ -47,9 +65,9 @@ public:
 private:
   void note(const char* kind, SoFormwright* node, const std::string& value)
   {
-    std::string entry = std::string(kind) + ":" + node->auditorID.getValue().getString() + ":" + value;
+    std::string entry = (name.empty() ? "" : name + ":") + kind + ":" + node->auditorID.getValue().getString() + ":" + value;
     if (watched)
-      entry += watched->getBaseWidget() && watched->getBaseWidget()->isVisible() ? ":shown" : ":hidden";
-    entries.push_back(entry);
+      entry += isShown(watched) ? ":shown" : ":hidden";
+    log->push_back(entry);
   }
 };

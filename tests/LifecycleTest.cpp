@@ -11,14 +11,8 @@
 #include "SoFormwrightClassList.h"
 
 #include <Inventor/SoInteraction.h>
-#include <Inventor/fields/SoFieldData.h>
 #include <Inventor/nodekits/SoNodeKit.h>
-#include <Inventor/nodekits/SoNodekitCatalog.h>
 #include <QWidget>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -96,58 +90,6 @@ TEST(Lifecycle, theLastFinishClosesTheLibrarysOwnWindowsOnlyAndSaysSo)
   SoFormwright::init();
 }
 
-// A node kept past the end of the library and touched then must not spoil
-// the classes that the next start registers afresh.
-TEST(Lifecycle, restartRegistersEveryClassAfreshAndTellsTheClusterOnce)
-{
-  SoSeparator* kept = readScene(kLabelFile);
-  ASSERT_NE(kept, nullptr);
-  const int fieldCount = kept->getChild(0)->getFieldData()->getNumFields();
-
-  ModuleRecorder recorder;
-  ScInitModuleCmd::setInstance(&recorder);
-  SoFormwright::finish();
-  EXPECT_TRUE(SoDialogLabel::getClassTypeId().isBad());
-  EXPECT_EQ(SoDialogLabel::getClassNodekitCatalog(), nullptr);
-  {
-    DebugMessages messages;
-    EXPECT_EQ(kept->getChild(0)->getField("label"), nullptr);
-  }
-
-  SoFormwright::init();
-  SoFormwright::init();
-  SoFormwright::finish();
-  ScInitModuleCmd::setInstance(nullptr);
-  EXPECT_EQ(recorder.modules, std::vector<std::string>{"Formwright"});
-
-  SoSeparator* fresh = readScene("#Inventor V2.1 ascii\nDialogLabel { label \"new\" }\n");
-  ASSERT_NE(fresh, nullptr);
-  auto* label = static_cast<SoDialogLabel*>(fresh->getChild(0));
-  EXPECT_EQ(label->label.getValue(), SbString("new"));
-  EXPECT_EQ(label->getFieldData()->getNumFields(), fieldCount);
-  ASSERT_NE(SoDialogLabel::getClassNodekitCatalog(), nullptr);
-  EXPECT_GE(SoDialogLabel::getClassNodekitCatalog()->getPartNumber("geomSwitch"), 0);
-  fresh->unref();
-}
-
-// The toolkit never gives back a type's slot and has 32,767 of them: if each
-// start made its types anew, a process would overflow the table after some
-// seven hundred starts. A start takes up the types of the last one instead,
-// which the end in between has withdrawn.
-TEST(Lifecycle, aRestartTakesUpTheTypesOfTheLastStart)
-{
-  const SoType labelType = SoDialogLabel::getClassTypeId();
-  const SoType auditorType = SoDialogAuditor::getClassTypeId();
-  const int typeCount = SoType::getNumTypes();
-  SoFormwright::finish();
-  EXPECT_FALSE(SoType::fromName("DialogLabel").canCreateInstance());
-  SoFormwright::init();
-  EXPECT_EQ(SoType::getNumTypes(), typeCount);
-  EXPECT_EQ(SoDialogLabel::getClassTypeId(), labelType);
-  EXPECT_EQ(SoDialogAuditor::getClassTypeId(), auditorType);
-  EXPECT_TRUE(labelType.canCreateInstance());
-}
-
 TEST(Lifecycle, misuseOfRegistrationIsReportedAndHealed)
 {
   DebugMessages messages;
@@ -174,12 +116,46 @@ TEST(Lifecycle, misuseOfRegistrationIsReportedAndHealed)
   EXPECT_EQ(SoDialogPushButtonLauncher::getClassTypeId().getParent(), SoDialogPushButton::getClassTypeId());
 }
 
-// Dialog files name each class by its name less the prefix; each class comes
-// after its parent, and a fresh start makes every class creatable again.
-TEST(Lifecycle, everyClassRegistersUnderItsFileNameAfterItsParent)
+// A node kept past the end of the library and touched then must not spoil
+// the classes that the next start registers afresh. The toolkit never gives
+// back a type's slot and has 32,767 of them: if each start made its types
+// anew, a process would overflow the table after some seven hundred starts,
+// so a start takes up the types of the last one, which the end in between
+// withdrew. Dialog files name each class by its name less the prefix; each
+// class comes after its parent.
+TEST(Lifecycle, aRestartTakesUpTheTypesOfTheLastStartAndRegistersEveryClassAfresh)
 {
+  SoSeparator* kept = readScene(kLabelFile);
+  ASSERT_NE(kept, nullptr);
+  const int fieldCount = kept->getChild(0)->getFieldData()->getNumFields();
+  const SoType labelType = SoDialogLabel::getClassTypeId();
+  const SoType auditorType = SoDialogAuditor::getClassTypeId();
+  const int typeCount = SoType::getNumTypes();
+
+  ModuleRecorder recorder;
+  ScInitModuleCmd::setInstance(&recorder);
   SoFormwright::finish();
+  EXPECT_TRUE(SoDialogLabel::getClassTypeId().isBad());
+  EXPECT_FALSE(SoType::fromName("DialogLabel").canCreateInstance());
+  EXPECT_EQ(SoDialogLabel::getClassNodekitCatalog(), nullptr);
+  {
+    DebugMessages messages;
+    EXPECT_EQ(kept->getChild(0)->getField("label"), nullptr);
+  }
   SoFormwright::init();
+  SoFormwright::init();
+  SoFormwright::finish();
+  ScInitModuleCmd::setInstance(nullptr);
+  EXPECT_EQ(recorder.modules, std::vector<std::string>{"Formwright"});
+  EXPECT_EQ(SoType::getNumTypes(), typeCount);
+  EXPECT_EQ(SoDialogLabel::getClassTypeId(), labelType);
+  EXPECT_EQ(SoDialogAuditor::getClassTypeId(), auditorType);
+
+  SoSeparator* fresh = readScene(kLabelFile);
+  ASSERT_NE(fresh, nullptr);
+  EXPECT_EQ(fresh->getChild(0)->getFieldData()->getNumFields(), fieldCount);
+  ASSERT_NE(SoDialogLabel::getClassNodekitCatalog(), nullptr);
+  EXPECT_GE(SoDialogLabel::getClassNodekitCatalog()->getPartNumber("geomSwitch"), 0);
   const auto check = [](const char* className, SoType type) {
     ASSERT_FALSE(type.isBad()) << className;
     EXPECT_EQ(SoType::fromName(className + 2), type) << className;

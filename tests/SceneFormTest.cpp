@@ -4,20 +4,16 @@
 #include <SoColumnDialog.h>
 #include <SoDialogCheckBox.h>
 #include <SoDialogCheckBoxLauncher.h>
-#include <SoDialogComponent.h>
 #include <SoDialogPushButtonLauncher.h>
 #include <SoMenuCheckBoxLauncher.h>
 #include <SoRowDialog.h>
 
-#include <Inventor/actions/SoSearchAction.h>
-#include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoText3.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -33,26 +29,23 @@ protected:
   }
 };
 
-TEST(SceneForm, aSecondBuildKeepsComputedSizesOutOfTheFile)
-{
-  auto* dialog = makeNode<SoTopLevelDialog>();
-  SoDialogComponent* child = makeFixedLeaf();
-  dialog->addChild(child);
-  buildInScene(dialog);
-  buildInScene(dialog);
-  EXPECT_TRUE(child->width.isDefault());
-  EXPECT_TRUE(child->height.isDefault());
-  EXPECT_TRUE(dialog->width.isDefault());
-  EXPECT_TRUE(dialog->height.isDefault());
-}
+// A window in the scene with one leaf of 101 by 30: its plate is 109 by 57,
+// a border of 4 round the leaf and a title of 23 above it.
+struct SceneWindow : testing::Test {
+  Scene scene;
+  SoTopLevelDialog* dialog = makeNode<SoTopLevelDialog>();
+  SoDialogComponent* leaf = makeFixedLeaf(101, 30);
+  SceneWindow() { dialog->addChild(leaf), scene.root->addChild(dialog); }
+};
 
-TEST(SceneForm, aChildAddedToABuiltDialogGrowsIt)
+TEST_F(SceneWindow, aRebuildKeepsComputedSizesOutOfTheFileAndAnAddedChildGrowsThePlate)
 {
-  auto* dialog = makeNode<SoTopLevelDialog>();
   dialog->rowSpacing = 5;
   dialog->windowResizedByChildren = TRUE;
-  dialog->addChild(makeFixedLeaf());
   buildInScene(dialog);
+  buildInScene(dialog);
+  for (SoSFInt32* size : {&leaf->width, &leaf->height, &dialog->width, &dialog->height})
+    EXPECT_TRUE(size->isDefault());
   const int before = dialog->height.getValue();
   const SbVec3f plateBefore = dialog->getTopLevelSize();
   dialog->addChild(makeFixedLeaf(100, 50));
@@ -60,91 +53,66 @@ TEST(SceneForm, aChildAddedToABuiltDialogGrowsIt)
   EXPECT_FLOAT_EQ(dialog->getTopLevelSize()[1], plateBefore[1] + 55.0f) << "the plate follows";
 }
 
-TEST(SceneForm, theFirstMeasureOfTheSceneBuildsAnUnbuiltDialog)
+TEST_F(SceneWindow, theFirstMeasureOfTheSceneBuildsAnUnbuiltDialog)
 {
-  Scene scene;
-  auto* dialog = makeNode<SoTopLevelDialog>();
   dialog->position3D.setValue(10.0f, 20.0f, 0.0f);
-  SoDialogComponent* child = makeFixedLeaf();
-  dialog->addChild(child);
-  scene.root->addChild(dialog);
   SoGetBoundingBoxAction measure(scene.viewport);
   measure.apply(scene.root);
   ASSERT_TRUE(dialog->isBuilt3D());
-  // The plate: the children with a border of 4 and a title of 23.
   const SbBox3f box = measure.getBoundingBox();
   EXPECT_NEAR(box.getMin()[0], 10.0f, 0.001f);
-  EXPECT_FLOAT_EQ(box.getMax()[0], 10.0f + 100 + 8);
+  EXPECT_FLOAT_EQ(box.getMax()[0], 10.0f + 109);
   EXPECT_FLOAT_EQ(box.getMax()[1], -20.0f);
-  EXPECT_FLOAT_EQ(box.getMin()[1], -20.0f - 30 - 27);
-  // The child stands on the plate's top, 4 in and 23 down.
-  const SbVec3f centre = centreOf(child);
-  EXPECT_FLOAT_EQ(centre[0], 10.0f + 4 + 50);
+  EXPECT_FLOAT_EQ(box.getMin()[1], -20.0f - 57);
+  // The leaf stands on the plate's top, 4 in and 23 down.
+  const SbVec3f centre = centreOf(leaf);
+  EXPECT_FLOAT_EQ(centre[0], 10.0f + 4 + 50.5f);
   EXPECT_FLOAT_EQ(centre[1], -20.0f - 23 - 15);
-  EXPECT_FLOAT_EQ(child->get3DParentTranslation()[2], 1.0f);
+  EXPECT_FLOAT_EQ(leaf->get3DParentTranslation()[2], 1.0f);
 }
 
-TEST(SceneForm, draggingThePlateMovesItByTheDraggedPixels)
+TEST_F(SceneWindow, draggingThePlateMovesItByTheDraggedPixels)
 {
-  Scene scene;
-  auto* dialog = makeNode<SoTopLevelDialog>();
   dialog->position3D.setValue(20.0f, 10.0f, 0.0f);
-  SoDialogComponent* child = makeFixedLeaf();
-  dialog->addChild(child);
-  scene.root->addChild(dialog);
   buildInScene(dialog);
-  const SbVec3f childBefore = centreOf(child);
-
-  // The border left of the children is plate only.
+  const SbVec3f leafBefore = centreOf(leaf);
+  // The border left of the leaf is plate only.
   scene.button(SoButtonEvent::DOWN, 22.0f, -40.0f);
   scene.move(42.0f, -50.0f);
   scene.move(52.0f, -65.0f);
   scene.button(SoButtonEvent::UP, 52.0f, -65.0f);
   EXPECT_NEAR(dialog->position3D.getValue()[0], 50.0f, 0.01f);
   EXPECT_NEAR(dialog->position3D.getValue()[1], 35.0f, 0.01f) << "y counts downward";
-  const SbVec3f childAfter = centreOf(child);
-  EXPECT_NEAR(childAfter[0] - childBefore[0], 30.0f, 0.01f) << "the children travel with the plate";
-  EXPECT_NEAR(childAfter[1] - childBefore[1], -25.0f, 0.01f);
+  const SbVec3f leafAfter = centreOf(leaf);
+  EXPECT_NEAR(leafAfter[0] - leafBefore[0], 30.0f, 0.01f) << "the children travel with the plate";
+  EXPECT_NEAR(leafAfter[1] - leafBefore[1], -25.0f, 0.01f);
   EXPECT_FALSE(dialog->minimized.getValue());
 }
 
-TEST(SceneForm, theMinimizeButtonShrinksThePlateToItsStripAndBack)
+TEST_F(SceneWindow, theMinimizeButtonShrinksThePlateToItsStripAndBack)
 {
-  Scene scene;
-  auto* dialog = makeNode<SoTopLevelDialog>();
-  SoDialogComponent* child = makeFixedLeaf();
-  dialog->addChild(child);
-  scene.root->addChild(dialog);
   buildInScene(dialog);
-  const float plateWidth = 100 + 8;
-  EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(plateWidth, 30 + 27, 1.0f));
-
   // The button's centre lies 12 from the top and right edges.
-  scene.click(plateWidth - 12, -12.0f);
+  scene.click(109 - 12, -12.0f);
   ASSERT_TRUE(dialog->minimized.getValue());
-  EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(plateWidth, 20, 1.0f));
+  EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(109, 20, 1.0f));
   EXPECT_EQ(dialog->minimized3DPosition.getValue(), dialog->position3D.getValue()) << "a first strip stands in place";
   EXPECT_EQ(scene.pickedNode(50.0f, -40.0f), nullptr) << "the children are hidden";
 
-  scene.click(plateWidth - 12, -10.0f);
+  scene.click(109 - 12, -10.0f);
   EXPECT_FALSE(dialog->minimized.getValue());
-  EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(plateWidth, 30 + 27, 1.0f));
-  EXPECT_EQ(scene.pickedNode(50.0f, -40.0f), child);
+  EXPECT_EQ(dialog->getTopLevelSize(), SbVec3f(109, 57, 1.0f));
+  EXPECT_EQ(scene.pickedNode(50.0f, -40.0f), leaf);
 }
 
-TEST(SceneForm, aTitleWiderThanThePlateStopsBeforeTheMinimizeButton)
+TEST_F(SceneWindow, aTitleWiderThanThePlateStopsBeforeTheMinimizeButton)
 {
-  Scene scene;
-  auto* dialog = makeNode<SoTopLevelDialog>();
   dialog->label = "Wide title Wide title Wide title Wide title";
-  dialog->addChild(makeFixedLeaf());
-  scene.root->addChild(dialog);
   buildInScene(dialog);
   // Glyphs of the title along the button's middle row, 12 below the top:
   // the button spans 14 round a centre 12 from the right edge.
-  const float plateWidth = 100 + 8;
   std::vector<float> glyphs;
-  for (float x = 12.0f; x <= plateWidth; x += 0.5f) {
+  for (float x = 12.0f; x <= 109; x += 0.5f) {
     SoRayPickAction pick(scene.viewport);
     pick.setPoint(Scene::pixel(x, -12.0f));
     pick.setPickAll(TRUE);
@@ -155,7 +123,26 @@ TEST(SceneForm, aTitleWiderThanThePlateStopsBeforeTheMinimizeButton)
         glyphs.push_back(x);
   }
   ASSERT_FALSE(glyphs.empty());
-  EXPECT_LT(glyphs.back(), plateWidth - 12 - 7);
+  EXPECT_LT(glyphs.back(), 109 - 12 - 7);
+}
+
+TEST_F(SceneWindow, aThickerSkinFrameLiftsTheChildrenWithIt)
+{
+  QTemporaryDir skin;
+  QFile file(QDir(skin.path()).filePath("TopLevelDialog.scn"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("#Inventor V2.1 ascii\n"
+             "DEF TopLevelDialogFrame Group { Translation { translation 0 0 2.5 }  Cube { depth 5 }"
+             "  Translation { translation 0 0 2.5 } }\n"
+             "DEF TopLevelDialogMinReleased Group { Cube {} }\nDEF TopLevelDialogMinPressed Group { Cube {} }\n");
+  file.close();
+  SoFormwright::setSkin(SbString(skin.path().toUtf8().constData()));
+
+  dialog->position3D.setValue(0.0f, 0.0f, 2.0f);
+  buildInScene(dialog);
+  EXPECT_FLOAT_EQ(leaf->get3DParentTranslation()[2], 2.0f + 5.0f);
+  // Later builds in the same process take the default look again.
+  SoFormwright::setSkin(SbString(FORMWRIGHT_EXAMPLES "/../skins/default"));
 }
 
 TEST(SceneForm, aPressOnAnotherControlEndsTheActiveOneOnce)
@@ -221,28 +208,6 @@ TEST(SceneForm, aDisabledGroupGreysAndDeadensItsChildrenUntilItComesBack)
   EXPECT_EQ(emissive(off), SbColor(0.5f, 0.5f, 0.5f));
 }
 
-TEST(SceneForm, aThickerSkinFrameLiftsTheChildrenWithIt)
-{
-  QTemporaryDir skin;
-  QFile file(QDir(skin.path()).filePath("TopLevelDialog.scn"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("#Inventor V2.1 ascii\n"
-             "DEF TopLevelDialogFrame Group { Translation { translation 0 0 2.5 }  Cube { depth 5 }"
-             "  Translation { translation 0 0 2.5 } }\n"
-             "DEF TopLevelDialogMinReleased Group { Cube {} }\nDEF TopLevelDialogMinPressed Group { Cube {} }\n");
-  file.close();
-  SoFormwright::setSkin(SbString(skin.path().toUtf8().constData()));
-
-  auto* dialog = makeNode<SoTopLevelDialog>();
-  dialog->position3D.setValue(0.0f, 0.0f, 2.0f);
-  SoDialogComponent* child = makeFixedLeaf();
-  dialog->addChild(child);
-  buildInScene(dialog);
-  EXPECT_FLOAT_EQ(child->get3DParentTranslation()[2], 2.0f + 5.0f);
-  // Later builds in the same process take the default look again.
-  SoFormwright::setSkin(SbString(FORMWRIGHT_EXAMPLES "/../skins/default"));
-}
-
 TEST(ScenePlacement, aMeasuredRowKeepsItsChildrenOneBelowTheOther)
 {
   auto* dialog = makeNode<SoTopLevelDialog>();
@@ -279,15 +244,6 @@ TEST(ScenePlacement, aMeasuredRowKeepsItsChildrenOneBelowTheOther)
   dialog->unref();
   other->unref();
 }
-
-// A window in the scene with one leaf of 101 by 30: its plate is 109 by 57,
-// and its children start 23 below its top.
-struct SceneWindow : testing::Test {
-  Scene scene;
-  SoTopLevelDialog* dialog = makeNode<SoTopLevelDialog>();
-  SoDialogComponent* leaf = makeFixedLeaf(101, 30);
-  SceneWindow() { dialog->addChild(leaf), scene.root->addChild(dialog); }
-};
 
 TEST_F(SceneWindow, aDisabledWindowTakesNoPickUntilEnabledAgain)
 {

@@ -15,9 +15,11 @@
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoHandleEventAction.h>
 #include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/events/SoKeyboardEvent.h>
 #include <Inventor/events/SoLocation2Event.h>
 #include <Inventor/events/SoMouseButtonEvent.h>
+#include <Inventor/nodekits/SoBaseKit.h>
 #include <Inventor/nodes/SoOrthographicCamera.h>
 
 #include <vector>
@@ -81,6 +83,11 @@ struct Scene {
       apply(event);
     }
   }
+  void type(std::initializer_list<SoKeyboardEvent::Key> keys)
+  {
+    for (SoKeyboardEvent::Key each : keys)
+      key(each);
+  }
   void apply(SoEvent& event)
   {
     event.setTime(SbTime::getTimeOfDay());
@@ -113,10 +120,29 @@ inline void buildInScene(SoTopLevelDialog* dialog)
   SoFormMode::setSceneForm(false);
 }
 
-// The centre of a node's geometry in the scene.
-inline SbVec3f centreOf(SoNode* node)
+// A node's geometry in the scene, and its centre.
+inline SbBox3f boxOf(SoNode* node)
 {
   SoGetBoundingBoxAction box{SbViewportRegion()};
   box.apply(node);
-  return box.getBoundingBox().getCenter();
+  return box.getBoundingBox();
+}
+inline SbVec3f centreOf(SoNode* node)
+{
+  return boxOf(node).getCenter();
+}
+
+// Where a node stands in the scene below `root`, every transform on its path
+// counted; the kits' parts and the hidden children of switches are searched.
+inline SbBox3f boxBelow(SoNode* root, SoNode* node)
+{
+  SoSearchAction search;
+  search.setNode(node);
+  search.setSearchingAll(TRUE);
+  SoBaseKit::setSearchingChildren(TRUE);
+  search.apply(root);
+  SoBaseKit::setSearchingChildren(FALSE);
+  SoGetBoundingBoxAction box{SbViewportRegion()};
+  box.apply(search.getPath());
+  return box.getBoundingBox();
 }

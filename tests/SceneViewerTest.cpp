@@ -8,7 +8,6 @@
 #include "SoQtSceneViewer.h"
 #include "SoTopLevelDialog.h"
 
-#include <Inventor/actions/SoHandleEventAction.h>
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoCube.h>
 #include <Inventor/nodes/SoEventCallback.h>
@@ -19,9 +18,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <gtest/gtest.h>
-
-#include <vector>
 
 using Formwright::SoQtEventTranslator;
 using Formwright::SoQtSceneViewer;
@@ -77,64 +73,43 @@ TEST(SceneViewerInput, buttonsAndKeysTakeTheToolkitsCodes)
 TEST(SceneViewerInput, aDragAndTypingBecomeToolkitEventsWithStateAndModifiers)
 {
   SoQtEventTranslator translator;
-  QMouseEvent press = mouse(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::ShiftModifier);
-  const SoEvent* event = translator.translate(&press, 100, 1.0);
+  const auto translated = [&](QInputEvent&& event) { return translator.translate(&event, 100, 1.0); };
+  const auto typed = [&](int qtKey, const QString& text, QEvent::Type type = QEvent::KeyPress) {
+    return static_cast<const SoKeyboardEvent*>(translated(QKeyEvent(type, qtKey, Qt::NoModifier, text)));
+  };
+  const SoEvent* event = translated(mouse(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::ShiftModifier));
   ASSERT_NE(event, nullptr);
-  ASSERT_TRUE(event->isOfType(SoMouseButtonEvent::getClassTypeId()));
   EXPECT_TRUE(SoMouseButtonEvent::isButtonPressEvent(event, SoMouseButtonEvent::BUTTON1));
   EXPECT_EQ(event->getPosition(), SbVec2s(5, 94));
-  EXPECT_TRUE(event->wasShiftDown());
-  EXPECT_FALSE(event->wasCtrlDown());
+  EXPECT_TRUE(event->wasShiftDown() && !event->wasCtrlDown());
 
-  QMouseEvent move = mouse(QEvent::MouseMove, QPointF(30, 40), Qt::NoButton, Qt::ControlModifier);
-  event = translator.translate(&move, 100, 1.0);
-  ASSERT_NE(event, nullptr);
-  ASSERT_TRUE(event->isOfType(SoLocation2Event::getClassTypeId()));
+  event = translated(mouse(QEvent::MouseMove, QPointF(30, 40), Qt::NoButton, Qt::ControlModifier));
+  ASSERT_TRUE(event && event->isOfType(SoLocation2Event::getClassTypeId()));
   EXPECT_EQ(event->getPosition(), SbVec2s(30, 59));
-  EXPECT_TRUE(event->wasCtrlDown());
-  EXPECT_FALSE(event->wasShiftDown());
-
-  QMouseEvent release = mouse(QEvent::MouseButtonRelease, QPointF(30, 40), Qt::LeftButton);
-  event = translator.translate(&release, 100, 1.0);
-  ASSERT_NE(event, nullptr);
+  EXPECT_TRUE(event->wasCtrlDown() && !event->wasShiftDown());
+  event = translated(mouse(QEvent::MouseButtonRelease, QPointF(30, 40), Qt::LeftButton));
   EXPECT_TRUE(SoMouseButtonEvent::isButtonReleaseEvent(event, SoMouseButtonEvent::BUTTON1));
-
   // The second press of a double click is a press like the first.
-  QMouseEvent twice = mouse(QEvent::MouseButtonDblClick, QPointF(30, 40), Qt::RightButton);
-  EXPECT_TRUE(SoMouseButtonEvent::isButtonPressEvent(translator.translate(&twice, 100, 1.0),
-                                                     SoMouseButtonEvent::BUTTON3));
-  QMouseEvent back = mouse(QEvent::MouseButtonPress, QPointF(30, 40), Qt::BackButton);
-  EXPECT_EQ(translator.translate(&back, 100, 1.0), nullptr);
+  event = translated(mouse(QEvent::MouseButtonDblClick, QPointF(30, 40), Qt::RightButton));
+  EXPECT_TRUE(SoMouseButtonEvent::isButtonPressEvent(event, SoMouseButtonEvent::BUTTON3));
+  EXPECT_EQ(translated(mouse(QEvent::MouseButtonPress, QPointF(30, 40), Qt::BackButton)), nullptr);
 
   // A key is typed where the pointer was last.
-  QKeyEvent capital(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier, "A");
-  event = translator.translate(&capital, 100, 1.0);
-  ASSERT_NE(event, nullptr);
-  ASSERT_TRUE(event->isOfType(SoKeyboardEvent::getClassTypeId()));
-  const auto* key = static_cast<const SoKeyboardEvent*>(event);
-  EXPECT_TRUE(SoKeyboardEvent::isKeyPressEvent(event, SoKeyboardEvent::A));
+  const SoKeyboardEvent* key = static_cast<const SoKeyboardEvent*>(
+    translated(QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier, "A")));
+  EXPECT_TRUE(SoKeyboardEvent::isKeyPressEvent(key, SoKeyboardEvent::A));
   EXPECT_EQ(key->getPrintableCharacter(), 'A');
   EXPECT_EQ(key->getPosition(), SbVec2s(30, 59));
   EXPECT_TRUE(key->wasShiftDown());
-
-  QKeyEvent accented(QEvent::KeyRelease, Qt::Key_Eacute, Qt::NoModifier, QString(QChar(0xe9)));
-  key = static_cast<const SoKeyboardEvent*>(translator.translate(&accented, 100, 1.0));
+  key = typed(Qt::Key_Eacute, QString(QChar(0xe9)), QEvent::KeyRelease);
   EXPECT_TRUE(SoKeyboardEvent::isKeyReleaseEvent(key, SoKeyboardEvent::UNDEFINED));
   EXPECT_EQ(key->getPrintableCharacter(), '\xe9');
-  // Outside Latin-1 the toolkit's one character has nothing to hold.
-  QKeyEvent euro(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(QChar(0x20ac)));
-  key = static_cast<const SoKeyboardEvent*>(translator.translate(&euro, 100, 1.0));
-  EXPECT_EQ(key->getPrintableCharacter(), '\0');
-  // Control characters, as Qt gives them for Ctrl+C or Escape, type nothing.
-  for (const char* control : {"\x03", "\x1b", "\x7f", "\t"}) {
-    QKeyEvent typed(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, control);
-    key = static_cast<const SoKeyboardEvent*>(translator.translate(&typed, 100, 1.0));
-    EXPECT_EQ(key->getPrintableCharacter(), '\0') << int(control[0]);
-  }
-  QKeyEvent arrow(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
-  key = static_cast<const SoKeyboardEvent*>(translator.translate(&arrow, 100, 1.0));
-  EXPECT_TRUE(SoKeyboardEvent::isKeyPressEvent(key, SoKeyboardEvent::UP_ARROW));
-  EXPECT_EQ(key->getPrintableCharacter(), '\0');
+  EXPECT_TRUE(SoKeyboardEvent::isKeyPressEvent(typed(Qt::Key_Up, ""), SoKeyboardEvent::UP_ARROW));
+  // Outside Latin-1 the toolkit's one character has nothing to hold; control
+  // characters, as Qt gives them for Ctrl+C or Escape, and arrows type nothing.
+  for (const QString& nothing : {QString(QChar(0x20ac)), QString("\x03"), QString("\x1b"), QString("\x7f"), QString("\t")})
+    EXPECT_EQ(typed(Qt::Key_unknown, nothing)->getPrintableCharacter(), '\0') << nothing.toStdString();
+  EXPECT_EQ(typed(Qt::Key_Up, "")->getPrintableCharacter(), '\0');
 }
 
 // Records the events that reach it, and takes every later one at a press, as

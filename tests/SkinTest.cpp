@@ -1,14 +1,17 @@
-#include "TestSupport.h"
+#include "ControlTestSupport.h"
+#include "SbFileHelper.h"
+#include "SbStringConvert.h"
+#include "SoPreferences.h"
+#include "SoSFFilePathString.h"
 
 #include <SoDialogCheckBox.h>
 #include <SoDialogComboBox.h>
-#include <SoDialogComponent.h>
 #include <SoDialogEditText.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogRadioButtons.h>
 #include <SoDialogSeparator.h>
 #include <SoDialogSlider.h>
-#include <SoFormwright.h>
+#include <SoFormMode.h>
 #include <SoMenuBar.h>
 #include <SoMenuCheckBox.h>
 #include <SoMenuItem.h>
@@ -20,19 +23,21 @@
 #include <SoTabDialog.h>
 #include <SoTopLevelDialog.h>
 
-#include <Inventor/SoPath.h>
+#include <Inventor/SbViewportRegion.h>
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoGetMatrixAction.h>
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/lists/SoNodeList.h>
 #include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoMaterial.h>
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
+#include <cstdlib>
+#include <memory>
 
 namespace {
 
@@ -102,10 +107,11 @@ float topOf(SoNode* part)
   return matrix.getMatrix()[3][2];
 }
 
-// A skin directory of one file.
-void writeSkinFile(const QTemporaryDir& dir, const char* file, const char* text)
+// One file of a skin, at `path` within `dir`.
+void writeSkinFile(const QTemporaryDir& dir, const QString& path, const QByteArray& text)
 {
-  QFile out(QDir(dir.path()).filePath(file));
+  ASSERT_TRUE(QDir(dir.path()).mkpath(QFileInfo(path).path()));
+  QFile out(QDir(dir.path()).filePath(path));
   ASSERT_TRUE(out.open(QIODevice::WriteOnly));
   out.write(text);
 }
@@ -211,7 +217,6 @@ TEST(Skins, aMissingOrBrokenFileFallsBackOnTheBuiltInText)
   ASSERT_EQ(messages.count(), before + 2);
   EXPECT_NE(messages.all()[before].find("The skin file : <DialogSeparator.scn> cannot be found."), std::string::npos);
   EXPECT_NE(messages.all()[before + 1].find("The skin file : <Missing.scn> cannot be found."), std::string::npos);
-  EXPECT_EQ(messages.countHolding("IMPORTANT"), messages.contains("IMPORTANT") ? 1 : 0);
   SoNode* vertical = SoNode::getByName("DialogSeparatorVertical");
   ASSERT_NE(vertical, nullptr);
   EXPECT_GT(static_cast<SoGroup*>(vertical)->getNumChildren(), 0);
@@ -219,7 +224,7 @@ TEST(Skins, aMissingOrBrokenFileFallsBackOnTheBuiltInText)
 }
 
 // The skins installed with the library come last, below its own directory.
-TEST(Skins, theSearchListPutsTheInstalledSkinsFirstAndTheLibrarysOwnLast)
+TEST(Skins, theSearchListRunsFromTheInstalledSkinsToTheLibrarysOwnAndFindsASkinByName)
 {
   const QString installed = QString(FORMWRIGHT_LIBRARY_DIRECTORY) + "/";
   const auto entries = [] {
@@ -238,23 +243,151 @@ TEST(Skins, theSearchListPutsTheInstalledSkinsFirstAndTheLibrarysOwnLast)
   SoPreferences::unsetString("FORMWRIGHT_SKINS_DIR");
   EXPECT_EQ(entries(), QStringList{list[3]});
   SoPreferences::unsetString("SCENICHOME");
-}
 
-TEST(Skins, aSkinIsFoundByNameInTheSearchList)
-{
   QTemporaryDir home;
-  ASSERT_TRUE(QDir(home.path()).mkpath("data/Formwright/skins/blue"));
-  QFile out(QDir(home.path()).filePath("data/Formwright/skins/blue/MenuBar.scn"));
-  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-  out.write("#Inventor V2.1 ascii\nDEF MenuBarFrame Group { Sphere {} }\n");
-  out.close();
+  writeSkinFile(home, "data/Formwright/skins/blue/MenuBar.scn", "#Inventor V2.1 ascii\nDEF MenuBarFrame Group { Sphere {} }\n");
   SoPreferences::setString("SCENICHOME", home.path().toUtf8().constData());
   SoFormwright::setSkin("blue");
   SoPreferences::unsetString("SCENICHOME");
+  SoPreferences::unsetString("FORMWRIGHT_SKINS_DIR");
   auto* frame = static_cast<SoGroup*>(SoNode::getByName("MenuBarFrame"));
   ASSERT_NE(frame, nullptr);
   ASSERT_EQ(frame->getNumChildren(), 1);
   EXPECT_STREQ(frame->getChild(0)->getTypeId().getName().getString(), "Sphere");
 }
 
-} // namespace
+// Skins across an end and a new start of the library, with the toolkit ended
+// and started between, as an application that restarts both does.
+
+void restartLibraryAndToolkit()
+{
+  SoFormwright::finish();
+  SoDB::finish();
+  SoFormwright::init();
+}
+
+// Builds a one-child dialog in the scene form and gives the size of its plate.
+SbVec3f builtPlateSize()
+{
+  auto* dialog = makeNode<SoTopLevelDialog>();
+  SizedLeaf* leaf = makeFixedLeaf();
+  dialog->addChild(leaf);
+  leaf->unref();
+  SoFormMode::setSceneForm(true);
+  dialog->buildDialog(nullptr, 0);
+  SoFormMode::setSceneForm(false);
+  SoGetBoundingBoxAction measure{SbViewportRegion(400, 400)};
+  measure.apply(dialog);
+  dialog->unref();
+  SbVec3f size(0.0f, 0.0f, 0.0f);
+  if (!measure.getBoundingBox().isEmpty())
+    size = measure.getBoundingBox().getMax() - measure.getBoundingBox().getMin();
+  return size;
+}
+
+// The colour of the first material in a skin group found by its DEF name.
+SbColor frameColour(const char* name)
+{
+  SoNode* node = SoNode::getByName(name);
+  if (!node || !node->isOfType(SoGroup::getClassTypeId()))
+    return SbColor(-1.0f, -1.0f, -1.0f);
+  auto* group = static_cast<SoGroup*>(node);
+  for (int i = 0; i < group->getNumChildren(); ++i)
+    if (group->getChild(i)->isOfType(SoMaterial::getClassTypeId()))
+      return static_cast<SoMaterial*>(group->getChild(i))->diffuseColor[0];
+  return SbColor(-1.0f, -1.0f, -1.0f);
+}
+
+// A skin named "default" in a directory of its own whose plate has the
+// given colour.
+void writePlateSkin(const QTemporaryDir& dir, const char* colour)
+{
+  writeSkinFile(dir, "default/TopLevelDialog.scn",
+                QByteArray("#Inventor V2.1 ascii\nDEF TopLevelDialogFrame Group { Material { diffuseColor ") + colour +
+                  " }  Translation { translation 0 0 0.5 }  Cube { width 1 height 1 depth 1 }"
+                  "  Translation { translation 0 0 0.5 } }\n"
+                  "DEF TopLevelDialogMinReleased Group { }\nDEF TopLevelDialogMinPressed Group { }\n");
+}
+
+TEST(SkinRestart, aBuildAfterARestartReadsTheSkinsAgainAndShowsThePlate)
+{
+  DebugMessages quiet;
+  // From a clean start, whatever skin earlier tests chose.
+  restartLibraryAndToolkit();
+  // The plate is the child, 100 by 30, with a border of 4 and a title of 23.
+  const SbVec3f first = builtPlateSize();
+  EXPECT_FLOAT_EQ(first[0], 108.0f);
+  EXPECT_FLOAT_EQ(first[1], 57.0f);
+
+  restartLibraryAndToolkit();
+  ASSERT_EQ(SoNode::getByName("TopLevelDialogFrame"), nullptr) << "the ended toolkit took the skin's names";
+  const SbVec3f again = builtPlateSize();
+  EXPECT_FLOAT_EQ(again[0], 108.0f);
+  EXPECT_FLOAT_EQ(again[1], 57.0f);
+  EXPECT_NE(SoNode::getByName("TopLevelDialogFrame"), nullptr);
+  EXPECT_NE(SoNode::getByName("DialogTextProperties"), nullptr);
+}
+
+TEST(SkinRestart, theNextStartLooksForTheSkinDirectoryAgain)
+{
+  DebugMessages quiet;
+  QTemporaryDir red;
+  QTemporaryDir blue;
+  writePlateSkin(red, "1 0 0");
+  writePlateSkin(blue, "0 0 1");
+
+  SoFormwright::setSkinsDirectories(red.path().toUtf8().constData());
+  restartLibraryAndToolkit();
+  builtPlateSize();
+  EXPECT_EQ(frameColour("TopLevelDialogFrame"), SbColor(1.0f, 0.0f, 0.0f));
+
+  SoFormwright::setSkinsDirectories(blue.path().toUtf8().constData());
+  restartLibraryAndToolkit();
+  builtPlateSize();
+  EXPECT_EQ(frameColour("TopLevelDialogFrame"), SbColor(0.0f, 0.0f, 1.0f));
+
+  // Later tests build with the built-in skins again.
+  SoPreferences::unsetString("FORMWRIGHT_SKINS_DIR");
+  restartLibraryAndToolkit();
+}
+
+// The preferences and paths of our toolkit layer, on which the skin search
+// rests.
+TEST(Toolkit, preferencesOverrideTheEnvironmentForThisProcessOnly)
+{
+  setenv("FORMWRIGHT_TEST_KEY", "from environment", 1);
+  EXPECT_STREQ(SoPreferences::getValue("FORMWRIGHT_TEST_KEY"), "from environment");
+  SoPreferences::setString("FORMWRIGHT_TEST_KEY", "from process");
+  EXPECT_STREQ(SoPreferences::getValue("FORMWRIGHT_TEST_KEY"), "from process");
+  EXPECT_STREQ(std::getenv("FORMWRIGHT_TEST_KEY"), "from environment");
+  SoPreferences::unsetString("FORMWRIGHT_TEST_KEY");
+  EXPECT_STREQ(SoPreferences::getValue("FORMWRIGHT_TEST_KEY"), "from environment");
+  unsetenv("FORMWRIGHT_TEST_KEY");
+  EXPECT_EQ(SoPreferences::getValue("FORMWRIGHT_TEST_KEY"), nullptr);
+  EXPECT_EQ(SoPreferences::getString("FORMWRIGHT_TEST_KEY", "fallback"), SbString("fallback"));
+}
+
+TEST(Toolkit, pathsExpandVariablesAndTakeForwardSlashes)
+{
+  SoPreferences::setString("FORMWRIGHT_TEST_DIR", "/data/my skins");
+  EXPECT_EQ(SbFileHelper::expandString("${FORMWRIGHT_TEST_DIR}/default/"), SbString("/data/my skins/default/"));
+  EXPECT_EQ(SbFileHelper::expandString("$FORMWRIGHT_TEST_DIR/x"), SbString("/data/my skins/x"));
+  EXPECT_EQ(SbFileHelper::expandString("a/$FORMWRIGHT_UNSET_VARIABLE/b"), SbString("a//b"));
+  SoPreferences::unsetString("FORMWRIGHT_TEST_DIR");
+  EXPECT_EQ(SbFileHelper::toUnixPath("C:\\skins\\default\\"), SbString("C:/skins/default/"));
+  EXPECT_EQ(SbStringConvert::toString_l("%.2f", 1.5), SbString("1.50"));
+}
+
+TEST(Toolkit, filePathFieldStoresForwardSlashes)
+{
+  const SoType type = SoSFFilePathString::getClassTypeId();
+  ASSERT_FALSE(type.isBad());
+  std::unique_ptr<SoSFFilePathString> field(static_cast<SoSFFilePathString*>(type.createInstance()));
+  ASSERT_TRUE(field->set("\"C:\\skins\\default\\Frame.scn\""));
+  EXPECT_EQ(field->getValue(), SbString("C:/skins/default/Frame.scn"));
+  SbString written;
+  field->get(written);
+  EXPECT_EQ(written, SbString("\"C:/skins/default/Frame.scn\""));
+}
+
+}

@@ -1,22 +1,16 @@
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
-#include <SoDialogAuditor.h>
 #include <SoDialogIntegerSlider.h>
 #include <SoDialogIntegerSliderAuditor.h>
 #include <SoDialogRealSlider.h>
 #include <SoDialogRealSliderAuditor.h>
-#include <SoPreferences.h>
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QOpenGLContext>
-#include <QTest>
-#include <gtest/gtest.h>
 
 #include <cmath>
-#include <vector>
 
 namespace {
 
@@ -47,11 +41,6 @@ struct SliderWindow : ControlWindow {
   QLineEdit* zone() const { return find<QLineEdit>("FWTSoDialogQSliderLineEditWidget"); }
   QWidget* bar() const { return find<QWidget>("FWTSoDialogQSliderSliderWidget"); }
   QCheckBox* toggle() const { return find<QCheckBox>("FWTSoDialogQSliderToggleWidget"); }
-  void show()
-  {
-    widget.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
-  }
   // Drags the thumb, held `grab` pixels from its left edge, from `from` to
   // `to`, stopping before the release.
   void drag(int from, int to)
@@ -182,7 +171,7 @@ TEST(DialogRealSlider, continuousTriggerDecidesWhenTheFieldFollowsADrag)
   RealAuditor auditor;
   node->addAuditor(&auditor);
   window.build(node);
-  window.show();
+  ASSERT_TRUE(window.show());
   const int right = window.bar()->width() - 1;
 
   // The thumb, 11 pixels wide, starts at the left end.
@@ -218,7 +207,7 @@ TEST(DialogRealSlider, stillClickOnTheThumbChangesNothing)
   RealAuditor auditor;
   node->addAuditor(&auditor);
   window.build(node);
-  window.show();
+  ASSERT_TRUE(window.show());
   // The middle of the thumb, 11 pixels wide, standing at the value's pixel.
   const int thumb = int(std::lround(0.3337f * float(window.bar()->width() - 11))) + 5;
   window.drag(thumb, thumb);

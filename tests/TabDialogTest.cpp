@@ -3,7 +3,6 @@
 // only when the person makes them, and the room that the tabs take.
 
 #include "ControlTestSupport.h"
-#include "TestSupport.h"
 
 #include <SoDialogAuditor.h>
 #include <SoDialogLabel.h>
@@ -12,13 +11,8 @@
 #include <SoTabDialogAuditor.h>
 #include <SoTopLevelDialog.h>
 
-#include <QApplication>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 
@@ -113,6 +107,13 @@ TEST(TabDialog, eachComponentGetsAPageTitledByItsLabel)
   EXPECT_EQ(tabTexts(built.tabWidget), (std::vector<std::string>{"Two", "Zero", "New", "Three", "Four"}));
   ASSERT_NE(moved->getWidget(), nullptr);
   EXPECT_EQ(moved->getWidget()->parentWidget(), built.tabWidget->widget(0));
+
+  // The tabs stand inside the frame after a resize.
+  QWidget* frame = built.tabs->getWidget();
+  ASSERT_EQ(frame->objectName().toStdString(), "FWTSoDialogQTabDialogFrame");
+  resizeFrame(frame, 300, 200);
+  EXPECT_EQ(built.tabWidget->geometry(), QRect(3, 3, 294, 194));
+  EXPECT_EQ(SbVec2i32(built.tabs->width.getValue(), built.tabs->height.getValue()), SbVec2i32(300, 200));
 }
 
 TEST(TabDialog, aRebuildReachesTheComponentsInThePages)
@@ -209,27 +210,10 @@ TEST(TabDialog, removingTheSelectedPageFallsBackToThePreviousSelection)
   EXPECT_EQ(pages.calls, 0) << "the tab widget's own choice as pages go is no choice of the person's";
 }
 
-TEST(TabDialog, tabsStandInsideTheFrameAfterAResize)
-{
-  BuiltTabs built = buildTabs("", page("One"));
-  QWidget* frame = built.tabs->getWidget();
-  ASSERT_EQ(frame->objectName().toStdString(), "FWTSoDialogQTabDialogFrame");
-  resizeFrame(frame, 300, 200);
-  EXPECT_EQ(built.tabWidget->geometry(), QRect(3, 3, 294, 194));
-  EXPECT_EQ(built.tabs->width.getValue(), 300);
-  EXPECT_EQ(built.tabs->height.getValue(), 200);
-}
-
 // A page of a chosen natural size and size triple.
-class Page : public SoDialogComponent {
-public:
-  SbVec2i32 initSize{0, 0};
-  SbVec2i32 getComponentInitSize() override { return initSize; }
-};
-
-Page* makePage(int w, int h, int maxW, int maxH)
+ProbeComponent* makePage(int w, int h, int maxW, int maxH)
 {
-  auto* page = makeNode<Page>();
+  auto* page = makeNode<ProbeComponent>();
   page->initSize.setValue(w, h);
   page->width = w;
   page->height = h;

@@ -7,6 +7,8 @@
 #include <Inventor/errors/SoReadError.h>
 #include <Inventor/nodes/SoSeparator.h>
 
+#include <gtest/gtest.h>
+
 #include <cstring>
 #include <ostream>
 #include <string>

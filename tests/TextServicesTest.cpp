@@ -4,29 +4,22 @@
 #include <SoDialogEditText.h>
 #include <SoDialogLabel.h>
 #include <SoFormwright.h>
+#include <SoTopLevelDialog.h>
 
-#include <Inventor/SbViewportRegion.h>
-#include <Inventor/actions/SoGetBoundingBoxAction.h>
-#include <Inventor/nodes/SoFont.h>
-#include <Inventor/nodes/SoText3.h>
 #include <QFontMetrics>
+#include <QLabel>
 #include <QWidget>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <vector>
+#include <ostream>
 
 namespace {
 
-// Reaches the protected text services; also serves as the owner node whose
-// box action measures 3D text.
+// Reaches the protected text services.
 class TextNode : public SoFormwright {
 public:
   using SoFormwright::convertToCString;
   using SoFormwright::getNumLines;
-  using SoFormwright::insertTextTo3DText;
-  using SoFormwright::setStringToText3;
-  using SoFormwright::wrap3DTextLine;
 };
 
 // The measure of text as the library takes it: the widest line, the height
@@ -43,14 +36,6 @@ SbVec2i32 measure(const QFont& font, const QStringList& lines)
 SbVec2i32 measure(const QStringList& lines)
 {
   return measure(SoFormwright::getFormwrightFont(), lines);
-}
-
-std::vector<std::string> linesOf(const SoText3* text)
-{
-  std::vector<std::string> lines;
-  for (int i = 0; i < text->string.getNum(); ++i)
-    lines.push_back(text->string[i].getString());
-  return lines;
 }
 
 TEST(TextServices, escapesResolveByTheKindOfNode)
@@ -94,6 +79,16 @@ TEST(TextServices, labelPixelSizeTakesTheWidestLineAndAllHeights)
     << "one line by default, as wide as the whole text";
   editText->multiLine = TRUE;
   EXPECT_EQ(SoFormwright::getLabelPixelSize(text, editText), measure({"first\r", "second line"}));
+  editText->multiLine = FALSE;
+  EXPECT_EQ(SoFormwright::getLabelPixelSize(text, editText), measure({"first\r\nsecond line"}));
+
+  // A size kept once measured is not handed to a node that reads the text
+  // otherwise, whichever asked first.
+  auto* combo = makeNode<SoDialogComboBox>();
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(SoFormwright::getLabelPixelSize("tab\\tand", combo), measure({"tab\\tand"})) << round;
+    EXPECT_EQ(SoFormwright::getLabelPixelSize("tab\\tand", nullptr), measure({"tab\tand"})) << round;
+  }
 }
 
 TEST(TextServices, newFontChangesLaterMeasuresButNotBuiltWidgets)
@@ -115,87 +110,31 @@ TEST(TextServices, newFontChangesLaterMeasuresButNotBuiltWidgets)
   EXPECT_EQ(built.font(), original);
 }
 
-TEST(TextServices, textIsSplitOverTheStringValuesAndInsertedIntoThem)
+// Dialog files written today hold UTF-8 text and older ones Latin-1: either
+// way a label shows the characters that were written, measured as shown.
+TEST(TextEncoding, labelShowsAndMeasuresTheWrittenCharacters)
 {
-  auto* text = makeNode<SoText3>();
-  TextNode::setStringToText3(text, "one\ntwo\nthree");
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"one", "two", "three"}));
-  TextNode::setStringToText3(text, "a\n");
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"a", "", "three"}))
-    << "a closing line feed gives an empty line; older lines stay behind";
-
-  text->string.setValue("hello");
-  EXPECT_EQ(TextNode::insertTextTo3DText("XY", text, 0, 2), 0);
-  EXPECT_EQ(TextNode::insertTextTo3DText("<", text, 0, 0), 0);
-  EXPECT_EQ(TextNode::insertTextTo3DText(">", text, 0, -1), 0);
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"<heXYllo>"}));
-  EXPECT_EQ(TextNode::insertTextTo3DText("new", text, 2, 5), 2) << "a line past the end is set whole";
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"<heXYllo>", "", "new"}));
-
-  const char* before[] = {"l0", "l1", "l2", "l3"};
-  text->string.setValues(0, 4, before);
-  EXPECT_EQ(TextNode::insertTextTo3DText("ab\ncd", text, 0, 1), 1);
-  EXPECT_EQ(linesOf(text), (std::vector<std::string>{"l0", "", "l2", "l1", "l2"}))
-    << "a line feed opens an empty line and stores none of the text";
-}
-
-// Wraps 3D text measured with one font of size 10.
-class Wrapping : public ::testing::Test {
-protected:
-  void SetUp() override
-  {
-    m_owner = makeNode<TextNode>();
-    m_props = makeNode<SoGroup>();
-    auto* font = new SoFont;
-    font->size = 10.0f;
-    m_props->addChild(font);
-    m_text = makeNode<SoText3>();
+  const struct {
+    const char* bytes;
+    QString shown;
+  } texts[] = {{"caf\xc3\xa9 \xe2\x82\xac", QString::fromUtf8(u8"caf\u00e9 \u20ac")},
+               {"caf\xe9 \xbd", QString::fromUtf8(u8"caf\u00e9 \u00bd")},
+               // A lone UTF-8 lead byte is no UTF-8 at all.
+               {"\xc3(", QString::fromUtf8(u8"\u00c3(")}};
+  const QFontMetrics metrics(SoFormwright::getFormwrightFont());
+  for (const auto& text : texts) {
+    SCOPED_TRACE(text.shown.toStdString());
+    SoSeparator* root = readScene(std::string("#Inventor V2.1 ascii\nTopLevelDialog { label \"") + text.bytes +
+                                  "\" DialogLabel { label \"" + text.bytes + "\" } }\n");
+    ASSERT_NE(root, nullptr);
+    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    window->buildDialog(nullptr, 0);
+    EXPECT_EQ(SoFormwright::getLabelPixelSize(SbString(text.bytes), nullptr),
+              SbVec2i32(metrics.horizontalAdvance(text.shown) + 3, metrics.height() + 3));
+    EXPECT_EQ(window->getBaseWidget()->findChild<QLabel*>("FWTSoDialogQLabelLabelWidget")->text(), text.shown);
+    EXPECT_EQ(window->getBaseWidget()->windowTitle(), text.shown);
+    window->destroyWidget();
   }
-
-  float widthOf(const char* value)
-  {
-    auto* scene = makeNode<SoSeparator>();
-    scene->addChild(m_props);
-    auto* text = new SoText3;
-    text->string = value;
-    scene->addChild(text);
-    SoGetBoundingBoxAction action{SbViewportRegion()};
-    action.apply(scene);
-    scene->unref();
-    return action.getBoundingBox().getSize()[0];
-  }
-
-  int wrap(int line, float width) { return TextNode::wrap3DTextLine(m_text, line, width, m_props, m_owner); }
-
-  TextNode* m_owner = nullptr;
-  SoGroup* m_props = nullptr;
-  SoText3* m_text = nullptr;
-};
-
-TEST_F(Wrapping, breaksByCharactersAndRepeatsTheOverflowingOne)
-{
-  ASSERT_GT(widthOf("aaa"), widthOf("aa"));
-  m_text->string.setValue("aaaaaaa");
-  EXPECT_EQ(wrap(0, widthOf("aaa")), 2);
-  EXPECT_EQ(linesOf(m_text), (std::vector<std::string>{"aaa", "aaa", "a"}));
-
-  const char* lines[] = {"aaaaaaa", "after"};
-  m_text->string.setNum(0);
-  m_text->string.setValues(0, 2, lines);
-  EXPECT_EQ(wrap(0, widthOf("aaa") - 0.01f), 3);
-  EXPECT_EQ(linesOf(m_text), (std::vector<std::string>{"aaa", "aaa", "aaa", "a", "after"}));
-  EXPECT_EQ(m_props->getRefCount(), 1) << "the measure hands the properties back";
-}
-
-TEST_F(Wrapping, textThatFitsStaysAndANarrowWidthTakesOneCharacterALine)
-{
-  const char* lines[] = {"first", "abc"};
-  m_text->string.setValues(0, 2, lines);
-  EXPECT_EQ(wrap(1, widthOf("abc") + 1.0f), 1);
-  EXPECT_EQ(linesOf(m_text), (std::vector<std::string>{"first", "abc"}));
-  m_text->string.setValue("abc");
-  EXPECT_EQ(wrap(0, 0.5f), 2);
-  EXPECT_EQ(linesOf(m_text), (std::vector<std::string>{"a", "b", "c"}));
 }
 
 }
