@@ -86,7 +86,9 @@ protected:
   static int32_t nextMenuId;
 
   int32_t id = 0;
-  void* menuParent = nullptr;
+  // Guarded: the application may delete the window, and the menu with it,
+  // while the node lives on.
+  QPointer<QWidget> menuParent;
   SbVec2i32 itemSize{0, 0};
 
   SoSFNode itemFrameSep;

@@ -7,6 +7,7 @@
 
 #include <SoDialogGroup.h>
 #include <SoDialogLabel.h>
+#include <SoMenuRadioButtons.h>
 #include <SoTopLevelDialog.h>
 
 #include <QAction>
@@ -144,8 +145,9 @@ TEST(BuiltTreeEdit, windowEndsOnceWhateverWidgetsTheApplicationHandedIt)
   delete window;
 }
 
-// However the application ends the widgets a dialog was shown in, a later
-// build gives back menus whose entries reach the auditors.
+// However the application ends the widgets a dialog was shown in, entries
+// changed meanwhile touch no freed menu, and a later build gives back menus
+// whose entries reach the auditors.
 TEST(BuiltTreeEdit, windowBuiltAgainAfterItsWidgetsWentHasWorkingMenus)
 {
   // 0: the host deleted; 1: destroyWidget, then the host deleted; 2: a window of its own destroyed.
@@ -163,12 +165,14 @@ TEST(BuiltTreeEdit, windowBuiltAgainAfterItsWidgetsWentHasWorkingMenus)
       window->destroyWidget();
     EXPECT_TRUE(loss != 1 || host->findChildren<QWidget*>().isEmpty()) << "the application's widget is left empty";
     delete host;
+    static_cast<SoMenuRadioButtons*>(window->searchForAuditorId("pick"))->items.set1Value(2, "c");
     window->buildDialog(nullptr, 0);
     auto* menu = window->getBaseWidget()->findChild<QMenu*>();
     ASSERT_NE(menu, nullptr) << loss;
     for (QAction* entry : menu->actions())
       entry->trigger();
-    const std::vector<std::string> heard{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1"};
+    const std::vector<std::string> heard{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1",
+                                        "radio:pick:2"};
     EXPECT_EQ(log.entries, heard) << loss;
     window->removeAuditor(&log);
     window->destroyWidget();

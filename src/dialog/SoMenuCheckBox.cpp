@@ -14,7 +14,6 @@
 #include <Inventor/nodes/SoSwitch.h>
 #include <Inventor/nodes/SoTranslation.h>
 
-#include <QMenu>
 
 #include <algorithm>
 
@@ -80,7 +79,7 @@ void SoMenuCheckBox::buildMenu(void* holder, int is2D, int position)
 void SoMenuCheckBox::insertMenuItem(int position)
 {
   id = nextMenuId++;
-  menuItem = new SoMenuQCheckBox(static_cast<QMenu*>(menuParent), position, id, this);
+  menuItem = new SoMenuQCheckBox(menuParent, position, id, this);
   // A state read from a file shows at once, mark and text together.
   changeState();
   changeAccelerator();

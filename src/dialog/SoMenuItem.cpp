@@ -38,7 +38,7 @@ void SoMenuItem::buildMenu(void* holder, int is2D, int position)
 {
   SbVec2i32 useSize(0, 0), size(0, 0);
   SoFormwright::buildWidget(nullptr, useSize, size, is2D);
-  menuParent = holder;
+  menuParent = static_cast<QWidget*>(holder);
   if (is2D)
     return;
   if (!isBuilt3D())

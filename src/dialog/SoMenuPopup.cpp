@@ -256,7 +256,7 @@ void SoMenuPopup::insertMenuItem(int)
   if (parentNode && parentNode->isOfType(SoMenuBar::getClassTypeId()))
     menu = static_cast<QMenuBar*>(static_cast<SoMenuBar*>(parentNode)->getMenu(nullptr))->addMenu(title);
   else if (menuParent)
-    menu = static_cast<QMenu*>(menuParent)->addMenu(title);
+    menu = static_cast<QMenu*>(menuParent.data())->addMenu(title);
   else
     menu = new QMenu(title); // a popup of its own, held by nothing
   // The enabled state is left to the first change of `enable`.

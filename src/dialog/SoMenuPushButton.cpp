@@ -15,7 +15,6 @@
 #include <Inventor/nodes/SoTransform.h>
 #include <Inventor/nodes/SoTranslation.h>
 
-#include <QMenu>
 
 SO_FORMWRIGHT_SOURCE(SoMenuPushButton, SoMenuItem, "MenuPushButton")
 
@@ -137,7 +136,7 @@ void SoMenuPushButton::finishCB3D(void*, SoDragger* dragger)
 void SoMenuPushButton::insertMenuItem(int position)
 {
   id = nextMenuId++;
-  menuItem = new SoMenuQPushButton(static_cast<QMenu*>(menuParent), position, id, this);
+  menuItem = new SoMenuQPushButton(menuParent, position, id, this);
   changeLabel();
   changeEnable();
   changeAccelerator();

@@ -17,7 +17,6 @@
 #include <Inventor/nodes/SoText3.h>
 #include <Inventor/nodes/SoTranslation.h>
 
-#include <QMenu>
 
 #include <algorithm>
 
@@ -92,7 +91,7 @@ void SoMenuRadioButtons::insertMenuItem(int)
   numItems = items.getNum();
   menuItems = new SoMenuQRadioButtons*[numItems];
   for (int i = 0; i < numItems; ++i) {
-    menuItems[i] = new SoMenuQRadioButtons(static_cast<QMenu*>(menuParent), -1, id + i, this);
+    menuItems[i] = new SoMenuQRadioButtons(menuParent, -1, id + i, this);
     ++nextMenuId;
   }
   changeSelectedItem();
@@ -151,7 +150,8 @@ void SoMenuRadioButtons::changeSelectedItem()
 
 void SoMenuRadioButtons::changeItems()
 {
-  if (!menuItems)
+  // A group whose menu has gone makes its actions when it is built again.
+  if (!menuItems || !menuParent)
     return;
   const int position = numItems != 0 ? menuItems[0]->getPosition() : 0;
   deleteBridges();

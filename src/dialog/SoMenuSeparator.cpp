@@ -25,7 +25,7 @@ void SoMenuSeparator::buildMenu(void* holder, int is2D, int position)
   const bool first3D = !is2D && !isBuilt3D();
   SoMenuItem::buildMenu(holder, is2D, position);
   if (is2D && menuParent)
-    static_cast<QMenu*>(menuParent)->addSeparator();
+    static_cast<QMenu*>(menuParent.data())->addSeparator();
   if (!is2D) {
     if (first3D)
       create3DSeparator(position);
