@@ -443,6 +443,17 @@ TEST(SceneSlider, theToggleFlipsContinuousTriggerAtReleaseSilentlyAndHidingItLen
   EXPECT_NEAR(hidden.getMax()[0], shown.getMax()[0], 0.01f) << "the value box keeps its place";
 }
 
+TEST(SceneSlider, aStillPressOnTheCursorChangesNothing)
+{
+  SliderScene<RealSlider> at(0, 10);
+  at.slider->min = -1.3f;
+  at.slider->max = 2.7f;
+  at.slider->value = 0.7f;
+  at.scene.click(at.box("cursorSep").getCenter());
+  EXPECT_EQ(at.slider->value.getValue(), 0.7f);
+  EXPECT_TRUE(at.heard.empty());
+}
+
 TEST(SceneSlider, badInputGivesNumbersNeverNaN)
 {
   SliderScene<IntSlider> equal(5, 5);

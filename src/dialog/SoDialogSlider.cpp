@@ -761,6 +761,10 @@ void SoDialogSlider::draggerFinishCallback3D()
     if (attached)
       continuousTriggerSensor->attach(&continuousTrigger);
   } else if (path->containsNode(cursorSep.getValue())) {
+    // A cursor pressed and let go where it stood keeps the value it showed,
+    // which a round trip through its position would blur.
+    if (cursorOffset->translation.getValue() == startCursor)
+      return;
     setValue();
     if (buildMode)
       changeEditValue();
