@@ -72,7 +72,7 @@ TEST(Lifecycle, lastFinishLeavesTheToolkitToTheApplication)
   SoFormwright::init();
 }
 
-TEST(Lifecycle, theLastFinishClosesTheLibrarysOwnWindowsOnlyAndSaysSo)
+TEST(Lifecycle, theLastFinishHidesTheLibrarysOwnWindowsOnlyAndSaysSo)
 {
   auto* window = makeNode<SoTopLevelDialog>();
   window->buildDialog(nullptr, 0);
@@ -83,7 +83,7 @@ TEST(Lifecycle, theLastFinishClosesTheLibrarysOwnWindowsOnlyAndSaysSo)
   {
     DebugMessages messages;
     SoFormwright::finish();
-    EXPECT_EQ(messages.countHolding("still open"), 1);
+    EXPECT_EQ(messages.countHolding("still open were hidden"), 1);
   }
   EXPECT_FALSE(window->getBaseWidget()->isVisible());
   EXPECT_TRUE(host.isVisible());

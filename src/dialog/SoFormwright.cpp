@@ -120,18 +120,18 @@ void SoFormwright::init()
 }
 
 namespace {
-void closeOwnWindows()
+void hideOwnWindows()
 {
-  int closed = 0;
+  int hidden = 0;
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (window->objectName() == QLatin1String("SoTopLevelDialog") && window->isVisible()) {
       window->hide();
-      ++closed;
+      ++hidden;
     }
   }
-  if (closed != 0)
-    SoDebugError::postWarning("SoFormwright::finish", "%d dialog window(s) still open at the end of the library closed",
-                              closed);
+  if (hidden != 0)
+    SoDebugError::postWarning("SoFormwright::finish",
+                              "%d dialog window(s) still open were hidden at the end of the library", hidden);
 }
 }
 
@@ -145,7 +145,7 @@ void SoFormwright::finish()
   // count its starts. Ending it is the application's call.
   if (s_initRefCount > 0)
     return;
-  closeOwnWindows();
+  hideOwnWindows();
   releaseFileCache();
   SoAuditor::exitClasses();
   for (auto registration = std::rbegin(kClasses); registration != std::rend(kClasses); ++registration)
