@@ -397,8 +397,8 @@ TEST_F(MenuEntries, newItemsRebuildTheGroupAtTheEndWithNewNumbers)
 }
 
 // Entries built alone: a default radio group shows one empty checked entry,
-// a check box its file's text and mark, and keys that name no key leave no
-// shortcut and no message.
+// a check box its file's on text but no mark nor disabled look until its state
+// is next written, and keys that name no key leave no shortcut and no message.
 TEST(MenuEntryDefaults, entriesTakeTheirFilesValuesAndUnreadableKeysNothing)
 {
   SoSeparator* root = readScene("#Inventor V2.1 ascii\nMenuRadioButtons { }\n"
@@ -409,8 +409,10 @@ TEST(MenuEntryDefaults, entriesTakeTheirFilesValuesAndUnreadableKeysNothing)
   static_cast<SoMenuCheckBox*>(root->getChild(1))->buildMenu(&menu, 1, -1);
   ASSERT_EQ(texts(&menu), (QStringList{"", "On"}));
   EXPECT_TRUE(menu.actions()[0]->isChecked());
-  EXPECT_TRUE(menu.actions()[1]->isChecked());
+  EXPECT_FALSE(menu.actions()[1]->isChecked());
   EXPECT_TRUE(menu.actions()[1]->isEnabled());
+  static_cast<SoMenuCheckBox*>(root->getChild(1))->state = TRUE;
+  EXPECT_TRUE(menu.actions()[1]->isChecked());
 
   DebugMessages messages;
   for (const char* text : {"Ctrl+Shift", "Alt+", "Ctrl+NoSuchKey", "Shift Ctrl+N"}) {

@@ -80,8 +80,9 @@ void SoMenuCheckBox::insertMenuItem(int position)
 {
   id = nextMenuId++;
   menuItem = new SoMenuQCheckBox(menuParent, position, id, this);
-  // A state read from a file shows at once, mark and text together.
-  changeState();
+  // Only the text follows a state read from the file: like `enable`, the
+  // mark waits for the field's next change.
+  changeLabel();
   changeAccelerator();
 }
 
