@@ -362,7 +362,7 @@ void UiFormConverter::addFormRows(DialogNode& rows, const UiElement& layout, int
   for (auto& entry : formRows) {
     FormRow& row = entry.second;
     if (row.label && row.cells.size() == 1) {
-      QString text = row.label->propertyText(QStringLiteral("text"));
+      QString text = shownText(*row.label, QStringLiteral("text"));
       if (row.label->property(QStringLiteral("buddy")))
         text = withoutMnemonics(text);
       rows.children.push_back(labelledField(std::move(row.cells.front()), text, columnSpacing));
@@ -395,10 +395,16 @@ std::vector<const UiElement*> UiFormConverter::contentWidgets(const UiElement& w
   return found;
 }
 
-// In reading order, nested layouts included.
+// In reading order, nested layouts included: a grid's cells by row, then
+// by column, whatever order the file lists them in.
 void UiFormConverter::addLayoutWidgets(const UiElement& layout, std::vector<const UiElement*>& found) const
 {
-  for (const UiElement* item : layout.children(QStringLiteral("item"))) {
+  std::vector<const UiElement*> items = layout.children(QStringLiteral("item"));
+  std::stable_sort(items.begin(), items.end(), [](const UiElement* a, const UiElement* b) {
+    return std::make_pair(itemNumber(*a, "row"), itemNumber(*a, "column")) <
+           std::make_pair(itemNumber(*b, "row"), itemNumber(*b, "column"));
+  });
+  for (const UiElement* item : items) {
     if (const UiElement* child = item->child(QStringLiteral("widget")))
       found.push_back(child);
     if (const UiElement* nested = item->child(QStringLiteral("layout")))
