@@ -79,10 +79,6 @@ std::vector<BadInput> badInputs()
     {"an unknown node", "TopLevelDialog { DialogKnob { } }\n", Outcome::Refused, "Node type ``DialogKnob'' not recognized."},
     {"an unknown field", "TopLevelDialog { DialogCheckBox { colour 3 } }\n", Outcome::Refused,
      "Unknown field \"colour\" in \"DialogCheckBox\""},
-    {"a mistyped field of a row", inWindow("RowDialog { rowSpcing 4 DialogLabel { } }"), Outcome::Refused,
-     "Unknown field \"rowSpcing\" in \"RowDialog\""},
-    {"a mistyped field of a window", "TopLevelDialog { labl \"x\" DialogLabel { } }\n", Outcome::Refused,
-     "Unknown field \"labl\" in \"TopLevelDialog\""},
     {"an undefined USE name", "TopLevelDialog { USE nowhere }\n", Outcome::Refused, "Unknown reference \"nowhere\""},
     // Children of a type that the container does not take.
     {"a shape in a window", "TopLevelDialog { Cube { } }\n", Outcome::Refused, "Cube"},
