@@ -4,29 +4,20 @@
 #include <SoColumnDialog.h>
 #include <SoDialogAuditor.h>
 #include <SoDialogCheckBox.h>
-#include <SoDialogCheckBoxAuditor.h>
-#include <SoDialogChoiceAuditor.h>
 #include <SoDialogComboBox.h>
 #include <SoDialogEditText.h>
-#include <SoDialogEditTextAuditor.h>
 #include <SoDialogIntegerSlider.h>
-#include <SoDialogIntegerSliderAuditor.h>
 #include <SoDialogLabel.h>
 #include <SoDialogPushButton.h>
 #include <SoDialogPushButtonAuditor.h>
 #include <SoDialogRadioButtons.h>
 #include <SoDialogRealSlider.h>
-#include <SoDialogRealSliderAuditor.h>
 #include <SoMenuBar.h>
 #include <SoMenuCheckBox.h>
-#include <SoMenuCheckBoxAuditor.h>
 #include <SoMenuFileSelection.h>
-#include <SoMenuFileSelectionAuditor.h>
 #include <SoMenuPopup.h>
 #include <SoMenuPushButton.h>
-#include <SoMenuPushButtonAuditor.h>
 #include <SoMenuRadioButtons.h>
-#include <SoMenuRadioButtonsAuditor.h>
 #include <SoPreferences.h>
 #include <SoRowDialog.h>
 #include <SoTabDialog.h>
@@ -115,30 +106,6 @@ TEST(DialogAuditor, defaultBodiesReportUnheardControlsOnlyWhenAsked)
   EXPECT_EQ(messages.severities()[0], SoDebugError::INFO) << "a report, not an error";
 }
 
-TEST(AuditorTypes, registeredUnderTheirNamesButTheTabDialogsStaysBad)
-{
-  EXPECT_EQ(SoType::fromName("Auditor"), SoAuditor::getClassTypeId());
-  EXPECT_TRUE(SoAuditor::getClassTypeId().getParent().isBad());
-#define CHECK_REPORT(T)                                                                                        \
-  EXPECT_EQ(SoType::fromName(#T), T::getClassTypeId()) << #T;                                                      \
-  EXPECT_EQ(T::getClassTypeId().getParent(), SoAuditor::getClassTypeId()) << #T;
-  CHECK_REPORT(SoDialogAuditor)
-  CHECK_REPORT(SoDialogPushButtonAuditor)
-  CHECK_REPORT(SoDialogCheckBoxAuditor)
-  CHECK_REPORT(SoDialogChoiceAuditor)
-  CHECK_REPORT(SoDialogEditTextAuditor)
-  CHECK_REPORT(SoDialogIntegerSliderAuditor)
-  CHECK_REPORT(SoDialogRealSliderAuditor)
-  CHECK_REPORT(SoMenuCheckBoxAuditor)
-  CHECK_REPORT(SoMenuFileSelectionAuditor)
-  CHECK_REPORT(SoMenuPushButtonAuditor)
-  CHECK_REPORT(SoMenuRadioButtonsAuditor)
-#undef CHECK_REPORT
-  EXPECT_TRUE(SoTabDialogAuditor::getClassTypeId().isBad());
-  EXPECT_TRUE(SoType::fromName("SoTabDialogAuditor").isBad());
-  EXPECT_EQ(DefaultAuditor().getTypeId(), SoDialogAuditor::getClassTypeId()) << "a derived auditor has no type of its own";
-}
-
 // Auditors that write one log, each entry led by the auditor's name.
 struct Recorder : EventLog {
   Recorder(std::vector<std::string>& shared, const char* own)
@@ -219,8 +186,9 @@ TEST_F(AuditorRouting, pressClimbsToTheFirstGroupWithAuditorsWhichHearInOrder)
   log.clear();
   inner->addAuditor(&first);
   inner->addAuditor(&second);
+  inner->addAuditor(&first);
   pressApply();
-  EXPECT_EQ(log, (std::vector<std::string>{"first:button:apply:", "second:button:apply:"}));
+  EXPECT_EQ(log, (std::vector<std::string>{"first:button:apply:", "second:button:apply:"})) << "each hears once";
 }
 
 // An auditor that is done after one event takes itself away while it hears.
@@ -241,6 +209,7 @@ TEST_F(AuditorRouting, auditorRemovingItselfLetsTheOthersHearTheSameEvent)
 {
   OneShot once(log, inner);
   Recorder after(log, "after");
+  inner->removeAuditor(&after); // not listed yet: harmless
   inner->addAuditor(&once);
   inner->addAuditor(&after);
   build();

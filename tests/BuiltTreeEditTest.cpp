@@ -16,9 +16,6 @@
 #include <QLayout>
 #include <QMenu>
 #include <QWidget>
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 
@@ -67,31 +64,26 @@ int qtMinimumHeight(SoTopLevelDialog* window)
   return window->getBaseWidget()->minimumSizeHint().height();
 }
 
-TEST(BuiltTreeEdit, insertedChildTakesItsPlaceInNodeOrder)
-{
-  SoTopLevelDialog* window = buildWindow("", fixedLabel("a") + fixedLabel("b"));
-  window->insertChild(makeLabel("first"), 0);
-  window->insertChild(makeLabel("middle"), 2);
-  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30, 60, 90}));
-}
-
-TEST(BuiltTreeEdit, removedOrReplacedChildLeavesNoRoom)
+TEST(BuiltTreeEdit, childrenInsertedRemovedOrReplacedStandInNodeOrderAndLeaveNoRoom)
 {
   SoTopLevelDialog* window =
     buildWindow("windowResizedByChildren TRUE", fixedLabel("a") + fixedLabel("b") + fixedLabel("c"));
   ASSERT_EQ(qtMinimumHeight(window), 90);
+  window->insertChild(makeLabel("first"), 0);
+  window->insertChild(makeLabel("middle"), 2);
+  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30, 60, 90, 120}));
 
   window->removeChild(1);
-  EXPECT_EQ(window->minHeight.getValue(), 60);
-  EXPECT_EQ(qtMinimumHeight(window), 60);
-  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30}));
-  EXPECT_EQ(window->getBaseWidget()->findChildren<QFrame*>("FWTSoDialogQLabelFrame").size(), 2);
+  EXPECT_EQ(window->minHeight.getValue(), 120);
+  EXPECT_EQ(qtMinimumHeight(window), 120);
+  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30, 60, 90}));
+  EXPECT_EQ(window->getBaseWidget()->findChildren<QFrame*>("FWTSoDialogQLabelFrame").size(), 4);
 
   window->replaceChild(0, makeLabel("new"));
-  EXPECT_EQ(window->minHeight.getValue(), 60);
-  EXPECT_EQ(qtMinimumHeight(window), 60);
-  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30}));
-  EXPECT_EQ(window->getBaseWidget()->layout()->count(), 2);
+  EXPECT_EQ(window->minHeight.getValue(), 120);
+  EXPECT_EQ(qtMinimumHeight(window), 120);
+  EXPECT_EQ(frameTops(window), (std::vector<int>{0, 30, 60, 90}));
+  EXPECT_EQ(window->getBaseWidget()->layout()->count(), 4);
 }
 
 TEST(BuiltTreeEdit, windowThatMayNotBeResizedKeepsItsSize)

@@ -163,8 +163,7 @@ TEST(DialogComboBox, buildsListAndLabelInItsFrame)
   ASSERT_EQ(children.size(), 2u);
   auto* combo = qobject_cast<QComboBox*>(children[0]);
   auto* text = qobject_cast<QLabel*>(children[1]);
-  ASSERT_NE(combo, nullptr);
-  ASSERT_NE(text, nullptr);
+  ASSERT_TRUE(combo && text);
   EXPECT_FALSE(combo->isEditable());
   EXPECT_EQ(combo->font(), SoFormwright::getFormwrightFont());
   ASSERT_EQ(combo->count(), 3);
@@ -313,39 +312,6 @@ TEST(DialogRadioButtons, buildsOneButtonPerChoiceInATitledBox)
   EXPECT_EQ(buttonsOf(window)[0]->text(), QString("Rough"));
   expectOneFrameThroughRebuilds(window, node, "FWTSoDialogQRadioButtonsFrame");
   EXPECT_EQ(checkedIndex(window), 1) << "a new build reads the fields";
-}
-
-TEST(DialogRadioButtons, heightOfTheSceneFormIsSpreadAPixelAtATime)
-{
-  class Spread : public SoDialogRadioButtons {
-  public:
-    std::vector<int> heights() const
-    {
-      std::vector<int> result;
-      for (int i = 0; i < numButtonSizes; ++i)
-        result.push_back(buttonSizes[i][1]);
-      return result;
-    }
-  };
-  // Two-line entries are taller than the 16 pixel floor of a button.
-  const int text = 2 * QFontMetrics(SoFormwright::getFormwrightFont()).height() + 3;
-  ControlWindow window;
-  auto* node = makeChoice<Spread>("", {"a\\nb", "c\\nd"});
-  auto build = [&](int requestedHeight) {
-    SbVec2i32 useSize(0, 0), size(0, requestedHeight);
-    node->buildWidget(&window.widget, useSize, size, 1);
-  };
-
-  build(2 * text + 30 + 5);
-  EXPECT_EQ(node->heights(), (std::vector<int>{text + 3, text + 2})) << "button after button";
-  build(2 * text + 30 + 1);
-  EXPECT_EQ(node->heights(), (std::vector<int>{text, text + 1})) << "the turn goes on where it stopped";
-  build(0);
-  EXPECT_EQ(node->heights(), (std::vector<int>{17, 17})) << "no button reaches its minimum of 16";
-
-  node->maxHeight = 30 + 2 * (text + 4);
-  build(1000);
-  EXPECT_EQ(node->heights(), (std::vector<int>{text + 3, text + 3})) << "nor its maximum";
 }
 
 }

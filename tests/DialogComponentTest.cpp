@@ -1,11 +1,8 @@
 #include "ControlTestSupport.h"
 
-#include <SoColumnDialog.h>
-#include <SoDialogAuditor.h>
 #include <SoDialogGroup.h>
 #include <SoDialogLabel.h>
 #include <SoDialogWidgetList.h>
-#include <SoRowDialog.h>
 #include <SoTopLevelDialog.h>
 
 #include <Inventor/sensors/SoFieldSensor.h>
@@ -20,12 +17,6 @@ ProbeComponent* makeComponent()
   return node;
 }
 
-// A column whose inner layout a test can set, as the column's build would.
-class Column : public SoColumnDialog {
-public:
-  using SoColumnDialog::componentLayout;
-};
-
 struct Triple {
   SbVec2i32 size, min, max;
 };
@@ -34,13 +25,6 @@ Triple sizeOf(SoDialogComponent* node)
 {
   Triple triple;
   node->getSize(triple.size, triple.min, triple.max);
-  return triple;
-}
-
-Triple recordOf(SoDialogComponent* node)
-{
-  Triple triple;
-  node->getDefaultState(triple.size, triple.min, triple.max);
   return triple;
 }
 
@@ -94,7 +78,8 @@ TEST(DialogComponent, buildWritesComputedSizesAndMarksThemAsNotTheApplications)
   EXPECT_EQ(narrow->width.getValue(), 100);
   EXPECT_FALSE(narrow->width.isDefault() || narrow->minWidth.isDefault());
   EXPECT_TRUE(narrow->maxHeight.isDefault()) << "an unlimited maximum is never written";
-  const Triple record = recordOf(narrow);
+  Triple record;
+  narrow->getDefaultState(record.size, record.min, record.max);
   EXPECT_EQ(record.size, SbVec2i32(50, 0));
   EXPECT_EQ(record.min, SbVec2i32(100, 0));
   EXPECT_EQ(record.max, SbVec2i32(0, 32767));
@@ -114,109 +99,6 @@ TEST(DialogComponent, buildWritesComputedSizesAndMarksThemAsNotTheApplications)
   EXPECT_EQ(sizeOf(dictated).size, SbVec2i32(25, 60));
   dictated->build(&window.widget, 1, SbVec2i32(1, 0), SbVec2i32(300, 5));
   EXPECT_EQ(sizeOf(dictated).size, SbVec2i32(300, 60)) << "an axis that is not dictated keeps its size";
-}
-
-TEST(DialogComponent, standAloneComponentMeasuresItselfAndOneInAContainerDoesNot)
-{
-  const SbVec2i32 labelPixels = textPixels("Name:");
-  ControlWindow window;
-  ProbeComponent* alone = makeComponent();
-  alone->label = "Name:";
-  alone->initSize.setValue(40, 5);
-  alone->build(&window.widget);
-  EXPECT_EQ(alone->labelSize, labelPixels);
-  EXPECT_EQ(alone->componentSize, SbVec2i32(40, std::max(5, labelPixels[1])));
-
-  ProbeComponent* hidden = makeComponent();
-  hidden->label = "Name:";
-  hidden->labelVisibility = FALSE;
-  hidden->initSize.setValue(-1, 5);
-  hidden->build(&window.widget);
-  EXPECT_EQ(hidden->componentSize, SbVec2i32(0, 5)) << "no natural width counts as 0; a hidden label adds no height";
-
-  ProbeComponent* inRow = makeComponent();
-  inRow->label = "Name:";
-  inRow->initSize.setValue(40, 5);
-  inRow->setParent(makeNode<SoRowDialog>());
-  SbVec2i32 given(70, 20);
-  inRow->setLabelSize(given);
-  inRow->build(&window.widget);
-  EXPECT_EQ(inRow->labelSize, given) << "the container's sizes stand";
-  EXPECT_EQ(inRow->componentSize, SbVec2i32(0, 0));
-}
-
-TEST(DialogComponent, sizeRecordFollowsTheApplicationAndResetForgetsTheMeasures)
-{
-  ControlWindow window;
-  ProbeComponent* node = makeComponent();
-  node->makesFrame = true;
-  node->build(&window.widget);
-  const QSize frameSize = node->getWidget()->size();
-
-  // After the build a size field only updates the record, not the widget.
-  node->width = 120;
-  node->height = 44;
-  node->maxHeight = 80;
-  const Triple record = recordOf(node);
-  EXPECT_EQ(record.size, SbVec2i32(120, 44));
-  EXPECT_EQ(record.min, SbVec2i32(25, 25)) << "all four limits are copied from the fields";
-  EXPECT_EQ(record.max, SbVec2i32(32767, 80));
-  EXPECT_EQ(node->getWidget()->size(), frameSize);
-  node->build(&window.widget, 1, SbVec2i32(1, 0), SbVec2i32(300, 0));
-  EXPECT_EQ(node->width.getValue(), 300);
-  EXPECT_EQ(recordOf(node).size, SbVec2i32(120, 44)) << "the library's own writes are not the application's";
-
-  node->label = "Name:";
-  node->resetSize();
-  EXPECT_EQ(node->componentInitSize, SbVec2i32(-1, -1));
-  EXPECT_EQ(node->labelSize, SbVec2i32(0, 0));
-  EXPECT_EQ(node->componentSize, SbVec2i32(0, 0));
-  EXPECT_EQ(recordOf(node).size, SbVec2i32(0, 0)) << "the reset goes through the sensors";
-  node->build(&window.widget);
-  EXPECT_EQ(sizeOf(node).size, SbVec2i32(200, 28)) << "measured as a fresh component";
-}
-
-TEST(DialogComponent, componentLayoutRunsAcrossAWindowAndDownAColumn)
-{
-  ControlWindow window;
-  ProbeComponent* node = makeComponent();
-  node->build(&window.widget);
-  EXPECT_EQ(node->getWidget(), &window.widget) << "the parent stands in until the control makes its frame";
-  auto* layout = static_cast<QBoxLayout*>(node->getLayout());
-  ASSERT_NE(qobject_cast<QHBoxLayout*>(layout), nullptr);
-  EXPECT_EQ(layout->spacing(), 0);
-  EXPECT_EQ(layout->contentsMargins(), QMargins(0, 0, 0, 0));
-  EXPECT_EQ(layout->parent(), window.layout);
-  EXPECT_EQ(node->layoutSpacer->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
-  node->build(&window.widget);
-  EXPECT_EQ(window.layout->count(), 1) << "a second build only refreshes";
-
-  ProbeComponent* fixed = makeComponent();
-  fixed->fixedWidth = TRUE;
-  fixed->build(&window.widget);
-  EXPECT_EQ(fixed->layoutSpacer->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding)
-    << "a fixed control is held at its place by the spacer behind it";
-
-  // In a column the spacer expands below a control that may not grow.
-  Column* column = makeNode<Column>();
-  column->componentLayout = new QHBoxLayout;
-  window.layout->addLayout(column->componentLayout);
-  const struct {
-    int height, maxHeight;
-    bool fixedHeight;
-    QSizePolicy::Policy spacer;
-  } cases[] = {{0, 0, false, QSizePolicy::Fixed}, {40, 40, false, QSizePolicy::Expanding}, {0, 0, true, QSizePolicy::Expanding}};
-  for (const auto& c : cases) {
-    ProbeComponent* child = makeComponent();
-    child->setParent(column);
-    child->height = c.height;
-    child->maxHeight = c.maxHeight;
-    child->fixedHeight = c.fixedHeight;
-    child->build(&window.widget);
-    EXPECT_NE(qobject_cast<QVBoxLayout*>(child->componentLayout), nullptr);
-    EXPECT_EQ(child->componentLayout->parent(), column->componentLayout);
-    EXPECT_EQ(child->layoutSpacer->sizePolicy().verticalPolicy(), c.spacer) << c.height << " " << c.fixedHeight;
-  }
 }
 
 TEST(DialogComponent, edgeStyleAndEnableApplyToTheControlsFrame)
@@ -248,11 +130,6 @@ TEST(DialogComponent, edgeStyleAndEnableApplyToTheControlsFrame)
 // Counts the calls that a field change makes on a node.
 class ProbeNode : public SoFormwright {
 public:
-  using SoFormwright::addAuditor;
-  using SoFormwright::getAuditor;
-  using SoFormwright::getAuditorListLength;
-  using SoFormwright::removeAuditor;
-
   int changes2D = 0, changes3D = 0;
   bool enableSeenDuringChange = true;
 
@@ -305,28 +182,6 @@ TEST(RootNode, fieldChangesReachEachBuiltFormOnce)
   node->setCanBeTraversed(0);
   node->enable = TRUE;
   EXPECT_EQ(node->changes3D, 3);
-}
-
-TEST(RootNode, auditorListKeepsOrderAndIgnoresRepeats)
-{
-  ProbeNode* node = makeNode<ProbeNode>();
-  struct Listener : SoDialogAuditor {};
-  Listener first, second, third;
-  node->removeAuditor(&first); // no list yet: harmless
-  EXPECT_EQ(node->getAuditorListLength(), 0);
-
-  node->addAuditor(&first);
-  node->addAuditor(&first);
-  node->addAuditor(&second);
-  node->addAuditor(&third);
-  node->removeAuditor(&second);
-  ASSERT_EQ(node->getAuditorListLength(), 2);
-  EXPECT_EQ(node->getAuditor(0), &first);
-  EXPECT_EQ(node->getAuditor(1), &third);
-  node->removeAuditor(&first);
-  node->removeAuditor(&first);
-  ASSERT_EQ(node->getAuditorListLength(), 1);
-  EXPECT_EQ(node->getAuditor(0), &third);
 }
 
 TEST(RootNode, firstTopParentFollowsTraversableParents)

@@ -5,21 +5,16 @@
 #include "TestSupport.h"
 #include "UiFormConverter.h"
 
-#include <SoDialogGroup.h>
-#include <SoMenuPopup.h>
 #include <SoTopLevelDialog.h>
 
 #include <Inventor/fields/SoMFString.h>
 #include <Inventor/fields/SoSFString.h>
+#include <Inventor/misc/SoChildList.h>
 
 #include <QBuffer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -59,19 +54,14 @@ struct Case {
 
 void PrintTo(const Case& form, std::ostream* out) { *out << form.name; }
 
+// The interface nodes among a node's children, which the kit's parts follow.
 std::string childTypes(SoFormwright* node)
 {
   std::string types;
-  auto add = [&](auto* parent) {
-    for (int i = 0; i < parent->getNumChildren(); ++i)
-      types += std::string(types.empty() ? "" : " ") + parent->getChild(i)->getTypeId().getName().getString();
-  };
-  if (node->isOfType(SoDialogGroup::getClassTypeId()))
-    add(static_cast<SoDialogGroup*>(node));
-  else if (node->isOfType(SoTopLevelDialog::getClassTypeId()))
-    add(static_cast<SoTopLevelDialog*>(node));
-  else if (node->isOfType(SoMenuPopup::getClassTypeId()))
-    add(static_cast<SoMenuPopup*>(node));
+  SoChildList* children = node->getChildren();
+  for (int i = 0; children && i < children->getLength(); ++i)
+    if ((*children)[i]->isOfType(SoFormwright::getClassTypeId()))
+      types += std::string(types.empty() ? "" : " ") + (*children)[i]->getTypeId().getName().getString();
   return types;
 }
 
@@ -161,7 +151,8 @@ std::vector<Case> cases()
                    prop("minimum", "double", "0.5") + prop("maximum", "double", "2") + prop("value", "double", "1.25") +
                      prop("decimals", "number", "1"))),
      "", 1,
-     {{"form", "TopLevelDialog", {{"label", "Form \"one\" \\ two"}, {"margin", "5"}, {"rowSpacing", "4"}}},
+     {{"form", "TopLevelDialog",
+       {{"auditorID", "form"}, {"label", "Form \"one\" \\ two"}, {"margin", "5"}, {"rowSpacing", "4"}}},
       {"hint", "DialogLabel", {{"label", "Hello"}}},
       {"styled", "DialogLabel", {{"label", "Bold &\nnext"}}},
       {"apply", "DialogPushButton", {{"buttonLabel", "Apply"}}},
@@ -226,15 +217,10 @@ TEST_P(FromUi, convertedFormLoadsAndBuildsWithEachWidgetAsItsControl)
   ASSERT_TRUE(converter.convert(input)) << converter.problems().join("\n").toStdString();
   EXPECT_EQ(converter.warnings().size(), form.warnings) << converter.warnings().join("\n").toStdString();
 
-  QTemporaryDir dir;
-  const QString path = dir.filePath(QString(form.name) + ".scn");
-  QFile out(path);
-  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-  out.write(converter.dialogText("form.ui").toUtf8());
-  out.close();
   DebugMessages messages(true);
-  auto* dialog = static_cast<SoTopLevelDialog*>(SoFormwright::loadFromFile(SbString(path.toUtf8().constData()), "form"));
-  ASSERT_NE(dialog, nullptr) << messages.joined();
+  SoSeparator* root = readScene(converter.dialogText("form.ui").toStdString());
+  ASSERT_NE(root, nullptr) << messages.joined();
+  auto* dialog = static_cast<SoTopLevelDialog*>(root->getChild(0));
   dialog->buildDialog(nullptr, 0);
   EXPECT_EQ(messages.count(), 0u) << messages.joined();
 

@@ -289,17 +289,14 @@ TEST_F(FileSelection, chosenFileIsSplitIntoDirectoryAndName)
     << "heard as a file selection and not as a push button";
 }
 
-TEST_F(FileSelection, cancelEmptiesTheNameAndIsHeardToo)
+TEST_F(FileSelection, cancelEmptiesTheNameAndIsHeardAndSaveModeAsksForANewFile)
 {
   open->filename = "old.scn";
   chooseFile([](QFileDialog* dialog) { dialog->reject(); });
   EXPECT_EQ(open->filename.getValue(), SbString(""));
   EXPECT_EQ(open->fileDirectory.getValue(), SbString("$FWT_TEST_FILES"));
   EXPECT_EQ(log, std::vector<std::string>{"file:open:$FWT_TEST_FILES|"});
-}
 
-TEST_F(FileSelection, saveModeAsksForANewFile)
-{
   open->mode = SoMenuFileSelection::SAVE;
   const std::string seen = chooseFile([&](QFileDialog* dialog) { type(dialog, files.filePath("new.scn")); });
   EXPECT_EQ(seen.substr(seen.size() - 5), "|save") << seen;

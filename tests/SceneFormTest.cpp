@@ -12,8 +12,9 @@
 #include <Inventor/nodes/SoText3.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
+
+#include <fstream>
 
 namespace {
 
@@ -129,13 +130,11 @@ TEST_F(SceneWindow, aTitleWiderThanThePlateStopsBeforeTheMinimizeButton)
 TEST_F(SceneWindow, aThickerSkinFrameLiftsTheChildrenWithIt)
 {
   QTemporaryDir skin;
-  QFile file(QDir(skin.path()).filePath("TopLevelDialog.scn"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("#Inventor V2.1 ascii\n"
-             "DEF TopLevelDialogFrame Group { Translation { translation 0 0 2.5 }  Cube { depth 5 }"
-             "  Translation { translation 0 0 2.5 } }\n"
-             "DEF TopLevelDialogMinReleased Group { Cube {} }\nDEF TopLevelDialogMinPressed Group { Cube {} }\n");
-  file.close();
+  std::ofstream(QDir(skin.path()).filePath("TopLevelDialog.scn").toStdString())
+    << "#Inventor V2.1 ascii\n"
+       "DEF TopLevelDialogFrame Group { Translation { translation 0 0 2.5 }  Cube { depth 5 }"
+       "  Translation { translation 0 0 2.5 } }\n"
+       "DEF TopLevelDialogMinReleased Group { Cube {} }\nDEF TopLevelDialogMinPressed Group { Cube {} }\n";
   SoFormwright::setSkin(SbString(skin.path().toUtf8().constData()));
 
   dialog->position3D.setValue(0.0f, 0.0f, 2.0f);
