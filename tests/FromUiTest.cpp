@@ -87,10 +87,14 @@ std::string fieldText(SoFormwright* node, const std::string& name)
 
 std::vector<Case> cases()
 {
-  const std::string radios = layout("QVBoxLayout", "qualityLayout",
-                                    item(widget("QRadioButton", "draft", text("&amp;Draft"))) +
-                                      item(widget("QRadioButton", "normal", text("Normal") + on("checked"))) +
-                                      item(widget("QRadioButton", "best", text("Best"))));
+  auto cell = [](int row, int column, const char* more = "") {
+    return "row=\"" + std::to_string(row) + "\" column=\"" + std::to_string(column) + "\" " + more;
+  };
+  // A grid lists its cells in any order; the choices read top to bottom.
+  const std::string radios = layout("QGridLayout", "qualityLayout",
+                                    item(widget("QRadioButton", "best", text("Best")), cell(2, 0)) +
+                                      item(widget("QRadioButton", "draft", text("&amp;Draft")), cell(0, 0)) +
+                                      item(widget("QRadioButton", "normal", text("Normal") + on("checked")), cell(1, 0)));
   const std::string file = widget("QMenu", "menuFile",
                                   prop("title", "string", "&amp;File") +
                                     widget("QMenu", "menuRecent", prop("title", "string", "Recent") +
@@ -107,9 +111,6 @@ std::vector<Case> cases()
     action("actionDelete", text("Delete") + prop("shortcut", "string", "Ctrl+Alt+Del")) +
     action("actionKeys", text("Keys") + prop("shortcut", "string", "Meta+Shift+F2"));
 
-  auto cell = [](int row, int column, const char* more = "") {
-    return "row=\"" + std::to_string(row) + "\" column=\"" + std::to_string(column) + "\" " + more;
-  };
   const std::string tabs = widget(
     "QTabWidget", "pages",
     prop("currentIndex", "number", "1") +
@@ -127,7 +128,7 @@ std::vector<Case> cases()
     "QFormLayout", "fields",
     item(widget("QLabel", "nameLabel", text("&amp;Name:") + prop("buddy", "cstring", "name")), cell(0, 0)) +
       item(widget("QLineEdit", "name"), cell(0, 1)) +
-      item(widget("QLabel", "copiesLabel", text("Copies:")), cell(1, 0)) + item(widget("QSpinBox", "copies"), cell(1, 1)) +
+      item(widget("QLabel", "copiesLabel", text("&lt;html&gt;&lt;body&gt;&lt;p&gt;&lt;b&gt;Copies:&lt;/b&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;")), cell(1, 0)) + item(widget("QSpinBox", "copies"), cell(1, 1)) +
       item(widget("QCheckBox", "wide", text("Wide")), cell(2, 0, "colspan=\"2\"")));
 
   return {
@@ -175,7 +176,7 @@ std::vector<Case> cases()
                    prop("spacing", "number", "7") + margins("3") + item(widget("QLabel", "a")) +
                      item(layout("QVBoxLayout", "column", item(grid) + item("<spacer name=\"gap\"/>"))))) +
        item(form),
-     "", 1,
+     "", 2,
      {{"pages", "TabDialog", {{"selectedPage", "1"}, {"children", "RowDialog ColumnDialog"}}},
       {"first", "RowDialog", {{"label", "First"}, {"children", "DialogSeparator"}}},
       {"second", "ColumnDialog", {{"label", "Second"}, {"children", "DialogCustom"}}},
@@ -217,10 +218,14 @@ TEST_P(FromUi, convertedFormLoadsAndBuildsWithEachWidgetAsItsControl)
   ASSERT_TRUE(converter.convert(input)) << converter.problems().join("\n").toStdString();
   EXPECT_EQ(converter.warnings().size(), form.warnings) << converter.warnings().join("\n").toStdString();
 
+  QTemporaryDir dir;
+  QFile out(dir.filePath(QString(form.name) + ".scn"));
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly) && out.write(converter.dialogText("form.ui").toUtf8()) > 0);
+  out.close();
   DebugMessages messages(true);
-  SoSeparator* root = readScene(converter.dialogText("form.ui").toStdString());
-  ASSERT_NE(root, nullptr) << messages.joined();
-  auto* dialog = static_cast<SoTopLevelDialog*>(root->getChild(0));
+  auto* dialog = static_cast<SoTopLevelDialog*>(
+    SoFormwright::loadFromFile(SbString(out.fileName().toUtf8().constData()), "form"));
+  ASSERT_NE(dialog, nullptr) << messages.joined();
   dialog->buildDialog(nullptr, 0);
   EXPECT_EQ(messages.count(), 0u) << messages.joined();
 
