@@ -9,6 +9,8 @@
 
 #include <SoFormwright.h>
 
+#include <Inventor/SoDB.h>
+
 #include <cstdio>
 #include <cstring>
 
@@ -50,5 +52,7 @@ int main(int argc, char** argv)
     }
   }
   SoFormwright::finish();
+  // The library leaves the toolkit running: its user ends it.
+  SoDB::finish();
   return anyError ? 1 : 0;
 }

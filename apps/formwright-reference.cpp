@@ -8,6 +8,7 @@
 
 #include <SoFormwright.h>
 
+#include <Inventor/SoDB.h>
 #include <Inventor/SoType.h>
 #include <Inventor/draggers/SoDragger.h>
 #include <Inventor/fields/SoField.h>
@@ -293,6 +294,8 @@ int main(int argc, char** argv)
       writeType(out, types[i], instances);
   }
   SoFormwright::finish();
+  // The library leaves the toolkit running: its user ends it.
+  SoDB::finish();
   std::string text = out.str();
   text.erase(text.find_last_not_of('\n') + 1);
   text += '\n';
