@@ -60,13 +60,20 @@ const char* const kNewNodeTypes[] = {
   "MenuBar", "MenuPopup", "MenuPushButton", "MenuCheckBox", "MenuRadioButtons", "MenuSeparator",
 };
 
-const char* const kSkins[] = {"default", "no such skin", FORMWRIGHT_SOURCE_DIR "/skins/default", ""};
+const char* const kSourceSkin = FORMWRIGHT_SOURCE_DIR "/skins/default";
+const char* const kSkins[] = {"default", "no such skin", kSourceSkin, ""};
 
 const int kViewport = 512;
 // Reactions inside reactions stop here; an application's would too.
 const int kMaxReactionDepth = 3;
 // A file may share one node thousands of times through DEF and USE.
 const size_t kMaxNodes = 512;
+
+// The library keeps every skin it reads for the rest of the process, so
+// that their DEF names live on, and a restart reads the skins again: both
+// grow the process by design, a few hundred kilobytes each time. Past these
+// many, one process of the fuzzer does neither, and its memory stays bounded.
+int s_skinReadsLeft = 1500;
 
 template <class Table>
 const auto& pick(const Table& table, unsigned index)
@@ -89,8 +96,9 @@ DialogSession::DialogSession(ActionTape& tape)
 DialogSession::~DialogSession()
 {
   release();
+  // The next run starts from the skin the fuzzer started with.
   if (m_skinSwapped)
-    SoFormwright::setSkin("default");
+    SoFormwright::setSkin(kSourceSkin);
 }
 
 void DialogSession::load()
@@ -168,8 +176,11 @@ void DialogSession::play(const Action& action)
   case ActionKind::Build: build(action.a); break;
   case ActionKind::ShowHideClose: showHideClose(action.a); break;
   case ActionKind::SwapSkin:
-    m_skinSwapped = true;
-    SoFormwright::setSkin(pick(kSkins, action.a));
+    if (s_skinReadsLeft > 0) {
+      --s_skinReadsLeft;
+      m_skinSwapped = true;
+      SoFormwright::setSkin(pick(kSkins, action.a));
+    }
     break;
   case ActionKind::AttachAuditor: attachAuditor(action); break;
   case ActionKind::DetachAuditor:
@@ -431,10 +442,14 @@ void DialogSession::deleteHost()
 
 void DialogSession::restart()
 {
+  if (s_skinReadsLeft <= 0)
+    return;
+  --s_skinReadsLeft;
   release();
   SoFormwright::finish();
   SoFormwright::init();
   freeInterfaceNodesOnLastUnref();
+  SoFormwright::setSkin(kSourceSkin);
   m_skinSwapped = false;
   load();
   if (m_dialog)

@@ -41,6 +41,8 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
   });
   dismisser->start(0);
   SoFormwright::init();
+  // The skin files of the source tree, rather than the built-in texts.
+  SoFormwright::setSkin(FORMWRIGHT_SOURCE_DIR "/skins/default");
   freeInterfaceNodesOnLastUnref();
   SoDebugError::setHandlerCallback(dropError, nullptr);
   SoReadError::setHandlerCallback(dropError, nullptr);
