@@ -4,6 +4,11 @@
 #include "SceneTestSupport.h"
 
 #include <SoDialogIntegerSlider.h>
+#include <SoDialogLabel.h>
+#include <SoRowDialog.h>
+#include <SoTabDialog.h>
+
+#include <functional>
 
 #include <QWidget>
 
@@ -21,4 +26,32 @@ TEST(FuzzFound, aSliderOutlivesTheWindowQtDeleted)
   buildInScene(window);
   slider->value = 10;
   EXPECT_FLOAT_EQ(slider->getValue(), 1.0f);
+}
+
+// A tab dialog given itself or the row that holds it as a page refuses it,
+// as every container does: a scene build went round for ever.
+TEST(FuzzFound, aTabDialogRefusesToHoldItself)
+{
+  const std::function<void(SoTabDialog*, SoDialogComponent*)> edits[] = {
+    [](SoTabDialog* tabs, SoDialogComponent* child) { tabs->addChild(child); },
+    [](SoTabDialog* tabs, SoDialogComponent* child) { tabs->insertChild(child, 0); },
+    [](SoTabDialog* tabs, SoDialogComponent* child) { tabs->replaceChild(0, child); },
+  };
+  for (const auto& edit : edits) {
+    auto* window = makeNode<SoTopLevelDialog>();
+    auto* row = makeNode<SoRowDialog>();
+    auto* tabs = makeNode<SoTabDialog>();
+    auto* page = makeNode<SoDialogLabel>();
+    window->addChild(row);
+    row->addChild(tabs);
+    tabs->addChild(page);
+    for (SoDialogComponent* holder : {static_cast<SoDialogComponent*>(tabs), static_cast<SoDialogComponent*>(row)}) {
+      DebugMessages messages;
+      edit(tabs, holder);
+      EXPECT_TRUE(messages.contains("a dialog cannot hold itself"));
+    }
+    ASSERT_EQ(tabs->getNumChildren(), 1);
+    EXPECT_EQ(tabs->getChild(0), page);
+    buildInScene(window);
+  }
 }

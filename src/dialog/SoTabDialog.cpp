@@ -4,6 +4,7 @@
 #include <SoTopLevelDialog.h>
 
 #include "Qt/SoDialogQTabDialog.h"
+#include "SoChildCheck.h"
 #include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
@@ -282,19 +283,15 @@ void SoTabDialog::childrenSensor(void* data, SoSensor* sensor)
 
 void SoTabDialog::addChild(SoDialogComponent* child)
 {
-  if (!child) {
-    SoDebugError::post("SoTabDialog::addChild", "NULL child node");
+  if (!SoChildCheck::accepts(child, this, "SoTabDialog::addChild"))
     return;
-  }
   placeChild(child, numChildren);
 }
 
 void SoTabDialog::insertChild(SoDialogComponent* child, int index)
 {
-  if (!child) {
-    SoDebugError::post("SoTabDialog::insertChild", "NULL child node");
+  if (!SoChildCheck::accepts(child, this, "SoTabDialog::insertChild"))
     return;
-  }
   if (index < 0 || index > numChildren) {
     SoDebugError::post("SoDialogGroup::insertChild", "Index %d is out of range %d - %d", index, 0, numChildren);
     return;
@@ -357,10 +354,8 @@ void SoTabDialog::replaceChild(SoDialogComponent* oldChild, SoDialogComponent* n
 
 void SoTabDialog::replaceChild(int index, SoDialogComponent* newChild)
 {
-  if (!newChild) {
-    SoDebugError::post("SoTabDialog::replaceChild", "NULL child node");
+  if (!SoChildCheck::accepts(newChild, this, "SoTabDialog::replaceChild"))
     return;
-  }
   if (index < 0 || index >= numChildren) {
     SoDebugError::post("SoTabDialog::replaceChild", "Index %d is out of range %d - %d", index, 0, numChildren - 1);
     return;
