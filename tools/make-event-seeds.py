@@ -27,11 +27,12 @@ seed("tab-page-moved-by-insert-then-remove",
      'TopLevelDialog { TabDialog { selectedPage 1 DialogLabel { label "One" } DialogLabel { label "Two" } } }',
      WINDOW, ("MoveChild", 1, 1, 0), ("WriteField", 1, 33, 0), ("ProcessEvents", 0, 0, 0), ("Build", WINDOW, 0, 0),
      ("MoveChild", 1, 0, 2), ("Build", SCENE, 0, 0), ("MoveChild", 1, 1, 0))
-# The line entry is widget 3 of the window (window, frame, label, entry).
+# The line entry is widget 3 of the window (window, frame, label, entry); it
+# tells its auditors of every character only without trigOnEnter.
 seed("auditor-switches-multiline-while-typing",
-     'TopLevelDialog { DialogEditText { editText "abc" } }',
+     'TopLevelDialog { DialogEditText { editText "abc" trigOnEnter FALSE } }',
      WINDOW, ("AttachAuditor", 0, 0, 0), ("WriteField", 1, 31, 3),
-     ("QtKey", 3, 0, 0), ("ProcessEvents", 0, 0, 0), ("QtKey", 3, 0, 0), ("QtKey", 4, 5, 0),
+     ("QtKey", 3, 0, 0), ("ProcessEvents", 0, 0, 0), ("QtKey", 3, 0, 0), ("QtKey", 3, 5, 0),
      ("ProcessEvents", 0, 0, 0))
 seed("host-widget-deleted",
      'TopLevelDialog { RowDialog { DialogLabel { label "a" } DialogEditText { } DialogIntegerSlider { } } '
