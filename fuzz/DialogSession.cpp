@@ -446,6 +446,8 @@ void DialogSession::restart()
     return;
   --s_skinReadsLeft;
   release();
+  // The library's types go with the last finish: their nodes go first.
+  freeDroppedNodes();
   SoFormwright::finish();
   SoFormwright::init();
   freeInterfaceNodesOnLastUnref();

@@ -44,6 +44,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
   // The skin files of the source tree, rather than the built-in texts.
   SoFormwright::setSkin(FORMWRIGHT_SOURCE_DIR "/skins/default");
   freeInterfaceNodesOnLastUnref();
+  s_keepingDroppedNodes = true;
   SoDebugError::setHandlerCallback(dropError, nullptr);
   SoReadError::setHandlerCallback(dropError, nullptr);
   return 0;
@@ -51,8 +52,11 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-  ActionTape tape(data, size);
-  DialogSession session(tape);
-  session.playAll();
+  {
+    ActionTape tape(data, size);
+    DialogSession session(tape);
+    session.playAll();
+  }
+  freeDroppedNodes();
   return 0;
 }

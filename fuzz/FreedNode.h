@@ -18,7 +18,24 @@
 // Set while the reader runs: it may drop a half-read node and still use it
 // while it unwinds, so the nodes dropped then are freed after it returns.
 inline bool s_reading = false;
-inline std::map<SoBase*, std::function<void()>> s_droppedWhileReading;
+// Set by a fuzzer that plays actions: a node dropped during a run may still
+// be inside its own event, as when an auditor removes the control it hears
+// of; the library keeps such a node, so the fuzzer frees it after the run.
+inline bool s_keepingDroppedNodes = false;
+inline std::map<SoBase*, std::function<void()>> s_droppedNodes;
+
+// Frees the dropped nodes that nothing took up again; the children that
+// they drop in turn go in the next round.
+inline void freeDroppedNodes()
+{
+  while (!s_droppedNodes.empty()) {
+    std::map<SoBase*, std::function<void()>> dropped;
+    dropped.swap(s_droppedNodes);
+    for (auto& [node, free] : dropped)
+      if (node->getRefCount() == 0)
+        free();
+  }
+}
 
 // An interface node that drops the last reference stays in memory, on
 // purpose: an application may still hold its widgets. Over millions of runs
@@ -35,8 +52,8 @@ public:
 protected:
   void destroy() override
   {
-    if (s_reading)
-      s_droppedWhileReading[this] = [this] { SoBase::destroy(); };
+    if (s_reading || s_keepingDroppedNodes)
+      s_droppedNodes[this] = [this] { SoBase::destroy(); };
     else
       SoBase::destroy();
   }
@@ -52,10 +69,8 @@ inline SoSeparator* readDialogScene(const uint8_t* data, size_t size)
   s_reading = false;
   // A dropped node that a later USE took up again is freed by its own last
   // unref instead.
-  for (auto& [node, free] : s_droppedWhileReading)
-    if (node->getRefCount() == 0)
-      free();
-  s_droppedWhileReading.clear();
+  if (!s_keepingDroppedNodes)
+    freeDroppedNodes();
   return root;
 }
 
