@@ -3,6 +3,8 @@
 
 #include "SceneTestSupport.h"
 
+#include <SoDialogAuditor.h>
+#include <SoDialogComboBox.h>
 #include <SoDialogIntegerSlider.h>
 #include <SoDialogLabel.h>
 #include <SoRowDialog.h>
@@ -10,6 +12,8 @@
 
 #include <functional>
 
+#include <QComboBox>
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -53,5 +57,35 @@ TEST(FuzzFound, aTabDialogRefusesToHoldItself)
     ASSERT_EQ(tabs->getNumChildren(), 1);
     EXPECT_EQ(tabs->getChild(0), page);
     buildInScene(window);
+  }
+}
+
+// An auditor that removes the control it hears of, or the window's widgets,
+// while Qt still handles the key that changed the control: the widgets go
+// once the event is over, and the window builds again.
+class Remover : public SoDialogAuditor {
+public:
+  std::function<void()> act;
+  void dialogComboBox(SoDialogComboBox*) override { act(); }
+};
+
+TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
+{
+  for (const bool wholeWindow : {false, true}) {
+    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DialogComboBox { items [\"x\", \"y\"] } }\n");
+    auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    Remover remover;
+    remover.act = [&] { wholeWindow ? window->destroyWidget() : window->removeAllChildren(); };
+    window->addAuditor(&remover);
+    window->buildDialog(nullptr, 0);
+    QPointer<QComboBox> combo = window->getBaseWidget()->findChild<QComboBox*>();
+    ASSERT_NE(combo, nullptr);
+    QTest::keyClick(combo, Qt::Key_Down);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(combo.isNull()) << wholeWindow;
+    window->removeAuditor(&remover);
+    window->buildDialog(nullptr, 0);
+    EXPECT_NE(window->getBaseWidget(), nullptr);
+    window->destroyWidget();
   }
 }

@@ -206,7 +206,7 @@ void SoTopLevelDialog::destroyWidget()
   if (buildInsideParent)
     delete dialogLayout.data();
   else
-    delete baseWidget.data();
+    SoWidgetEvent::deleteWidget(baseWidget.data());
   baseWidget = nullptr;
   dialogLayout = nullptr;
   SoFormwright::destroyWidget();
