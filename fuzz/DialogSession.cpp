@@ -147,6 +147,10 @@ void DialogSession::release()
     m_fileRoot->unref();
   m_auditors.clear();
   delete m_host;
+  // Nothing of this run may stay open into the next, which would then not
+  // replay alone.
+  for (int open = 0; open < 8 && QApplication::activePopupWidget(); ++open)
+    QApplication::activePopupWidget()->close();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   m_scene = nullptr;
   m_dialog = nullptr;

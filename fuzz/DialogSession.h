@@ -17,6 +17,7 @@
 #include <string>
 #include <vector>
 
+class SoEvent;
 class SoFormwright;
 class SoSeparator;
 class SoTopLevelDialog;
@@ -52,7 +53,7 @@ private:
   std::vector<SoFormwright*> nodes() const;
   SoNode* newOrExistingNode(uint8_t pick);
   QWidget* widget(uint8_t pick) const;
-  void applyInScene(class SoEvent& event);
+  void applyInScene(SoEvent& event);
 
   ActionTape& m_tape;
   SoSeparator* m_fileRoot = nullptr;
