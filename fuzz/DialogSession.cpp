@@ -239,9 +239,22 @@ QWidget* DialogSession::widget(uint8_t pick) const
   return widgets.empty() ? nullptr : widgets[pick % widgets.size()];
 }
 
+QWidget* DialogSession::shownWidget(uint8_t pick) const
+{
+  QWidget* target = widget(pick);
+  if (!target)
+    return nullptr;
+  // A user reaches only what is on screen: the window opens first, and a
+  // piece that the library keeps hidden stays out of reach. Qt itself
+  // fails on some input to a widget that was never shown.
+  if (!target->window()->isVisible())
+    target->window()->show();
+  return target->isVisible() ? target : nullptr;
+}
+
 void DialogSession::sendMouse(const Action& action)
 {
-  QPointer<QWidget> target = widget(action.a);
+  QPointer<QWidget> target = shownWidget(action.a);
   if (!target)
     return;
   static const QEvent::Type kTypes[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseMove,
@@ -261,7 +274,7 @@ void DialogSession::sendMouse(const Action& action)
 
 void DialogSession::sendKey(const Action& action)
 {
-  QPointer<QWidget> target = widget(action.a);
+  QPointer<QWidget> target = shownWidget(action.a);
   const QtKey& key = pick(kQtKeys, action.b);
   const Qt::KeyboardModifiers modifiers = pick(kModifiers, action.c);
   for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {

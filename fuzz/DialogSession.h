@@ -53,6 +53,7 @@ private:
   std::vector<SoFormwright*> nodes() const;
   SoNode* newOrExistingNode(uint8_t pick);
   QWidget* widget(uint8_t pick) const;
+  QWidget* shownWidget(uint8_t pick) const;
   void applyInScene(SoEvent& event);
 
   ActionTape& m_tape;
