@@ -64,6 +64,7 @@ const char* const kSourceSkin = FORMWRIGHT_SOURCE_DIR "/skins/default";
 const char* const kSkins[] = {"default", "no such skin", kSourceSkin, ""};
 
 const int kViewport = 512;
+const int kMaxPainted = 4096;
 // Reactions inside reactions stop here; an application's would too.
 const int kMaxReactionDepth = 3;
 // A file may share one node thousands of times through DEF and USE.
@@ -192,7 +193,10 @@ void DialogSession::play(const Action& action)
       detachAuditor(m_auditors[action.a % m_auditors.size()].get());
     break;
   case ActionKind::DeleteHost: deleteHost(); break;
-  case ActionKind::ProcessEvents: QApplication::processEvents(); break;
+  case ActionKind::ProcessEvents:
+    hideHugeWindows();
+    QApplication::processEvents();
+    break;
   case ActionKind::Restart: restart(); break;
   case ActionKind::Count: break;
   }
@@ -239,6 +243,16 @@ QWidget* DialogSession::widget(uint8_t pick) const
   return widgets.empty() ? nullptr : widgets[pick % widgets.size()];
 }
 
+void DialogSession::hideHugeWindows()
+{
+  // The offscreen platform paints a window whole into memory, where a
+  // screen would show a part: a window that absurd sizes made millions of
+  // pixels wide would take gigabytes. Such a window is not painted here.
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->isVisible() && (window->width() > kMaxPainted || window->height() > kMaxPainted))
+      window->hide();
+}
+
 QWidget* DialogSession::shownWidget(uint8_t pick) const
 {
   QWidget* target = widget(pick);
@@ -247,8 +261,9 @@ QWidget* DialogSession::shownWidget(uint8_t pick) const
   // A user reaches only what is on screen: the window opens first, and a
   // piece that the library keeps hidden stays out of reach. Qt itself
   // fails on some input to a widget that was never shown.
-  if (!target->window()->isVisible())
-    target->window()->show();
+  QWidget* window = target->window();
+  if (!window->isVisible() && window->width() <= kMaxPainted && window->height() <= kMaxPainted)
+    window->show();
   return target->isVisible() ? target : nullptr;
 }
 
@@ -399,7 +414,10 @@ void DialogSession::build(uint8_t form)
 void DialogSession::showHideClose(uint8_t which)
 {
   switch (which % 4) {
-  case 0: m_dialog->show(); break;
+  case 0:
+    m_dialog->show();
+    hideHugeWindows();
+    break;
   case 1: m_dialog->hide(); break;
   case 2:
     // Closing gives away a reference; this application holds another.

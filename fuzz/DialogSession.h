@@ -54,6 +54,7 @@ private:
   SoNode* newOrExistingNode(uint8_t pick);
   QWidget* widget(uint8_t pick) const;
   QWidget* shownWidget(uint8_t pick) const;
+  static void hideHugeWindows();
   void applyInScene(SoEvent& event);
 
   ActionTape& m_tape;
