@@ -89,3 +89,17 @@ TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
     window->destroyWidget();
   }
 }
+
+// A window placed at the ends of the int range: its corners must stay within
+// what Qt can hold, or Qt's own arithmetic on them overflows.
+TEST(FuzzFound, aWindowPlacedAtTheEndsOfTheRangeStaysWithinQtsSizes)
+{
+  auto* window = makeNode<SoTopLevelDialog>();
+  window->buildDialog(nullptr, 0);
+  QWidget* base = window->getBaseWidget();
+  window->position.setValue(SbVec2i32(2147483647, -2147483647 - 1));
+  EXPECT_EQ(base->pos(), QPoint(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX + 20));
+  window->position.setValue(SbVec2i32(-2147483647 - 1, 2147483647));
+  EXPECT_EQ(base->pos(), QPoint(-QWIDGETSIZE_MAX, QWIDGETSIZE_MAX + 20));
+  EXPECT_EQ(base->width(), base->geometry().right() - base->geometry().left() + 1);
+}
