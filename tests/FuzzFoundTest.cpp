@@ -13,6 +13,7 @@
 #include <functional>
 
 #include <QComboBox>
+#include <QTabWidget>
 #include <QTest>
 #include <QWidget>
 
@@ -102,4 +103,21 @@ TEST(FuzzFound, aWindowPlacedAtTheEndsOfTheRangeStaysWithinQtsSizes)
   window->position.setValue(SbVec2i32(-2147483647 - 1, 2147483647));
   EXPECT_EQ(base->pos(), QPoint(-QWIDGETSIZE_MAX, QWIDGETSIZE_MAX + 20));
   EXPECT_EQ(base->width(), base->geometry().right() - base->geometry().left() + 1);
+}
+
+// A label shared by two pages loses its frame when the page it stood on is
+// replaced; the other page builds it anew, and showing the selected page
+// meanwhile touches no frame that went.
+TEST(FuzzFound, aPageReplacedUnderASharedComponentLeavesItOnItsOtherPage)
+{
+  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DEF T TabDialog { DialogLabel { } DEF B DialogLabel { } } }\n");
+  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+  auto* tabs = static_cast<SoTabDialog*>(SoNode::getByName("T"));
+  auto* shared = static_cast<SoDialogLabel*>(SoNode::getByName("B"));
+  window->buildDialog(nullptr, 0);
+  tabs->replaceChild(0, shared);
+  tabs->replaceChild(0, makeNode<SoDialogLabel>());
+  auto* tabWidget = window->getBaseWidget()->findChild<QTabWidget*>("FWTSoDialogQTabDialogTabWidget");
+  ASSERT_TRUE(tabWidget && shared->getWidget());
+  EXPECT_EQ(shared->getWidget()->parentWidget(), tabWidget->widget(1));
 }

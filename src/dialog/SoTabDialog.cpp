@@ -238,13 +238,20 @@ void SoTabDialog::setSelectedPage(int32_t page)
 
 void SoTabDialog::updateTabPageWidget(int)
 {
+  // A component that stands on two pages has one frame: while a change of
+  // the other page rebuilds it, the list may still hold the frame that went.
+  const auto standing = [this](int i) {
+    QWidget* frame = childrenWidgets[i];
+    return frame && frame == getComponent(i)->getWidget() ? frame : nullptr;
+  };
   const int count = std::min(static_cast<int>(numChildren), childrenWidgets.getLength());
   for (int i = 0; i < count; ++i)
-    if (childrenWidgets[i])
-      childrenWidgets[i]->hide();
+    if (QWidget* frame = standing(i))
+      frame->hide();
   const int32_t page = selectedPage.getValue();
-  if (page >= 0 && page < count && childrenWidgets[page])
-    childrenWidgets[page]->show();
+  if (page >= 0 && page < count)
+    if (QWidget* frame = standing(page))
+      frame->show();
 }
 
 void SoTabDialog::updateTabWidget()
