@@ -11,11 +11,9 @@
 #include <SoTopLevelDialog.h>
 
 #include <SoFormMode.h>
-#include "SoFormwrightClassList.h"
+#include "FreedNode.h"
 
 #include <Inventor/SbViewportRegion.h>
-#include <Inventor/SoDB.h>
-#include <Inventor/SoInput.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/errors/SoDebugError.h>
 #include <Inventor/errors/SoReadError.h>
@@ -25,9 +23,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <functional>
-#include <map>
 
 namespace {
 
@@ -35,42 +30,6 @@ namespace {
 // none of it.
 void dropError(const SoError*, void*) {}
 void dropQtMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-// Set while the reader runs: it may drop a half-read node and still use it
-// while it unwinds, so the nodes dropped then are freed after it returns.
-bool s_reading = false;
-std::map<SoBase*, std::function<void()>> s_droppedWhileReading;
-
-// An interface node that drops the last reference stays in memory, on
-// purpose: an application may still hold its widgets. Over millions of runs
-// that would fill the fuzzer's memory and hide real leaks, so the nodes that
-// the reader makes here are freed as any other node of the toolkit.
-template <class Node>
-class FreedNode : public Node {
-public:
-  static void* create() { return new FreedNode; }
-
-protected:
-  void destroy() override
-  {
-    if (s_reading)
-      s_droppedWhileReading[this] = [this] { SoBase::destroy(); };
-    else
-      SoBase::destroy();
-  }
-};
-
-// A dropped node that a later USE took up again is freed by its own last
-// unref instead.
-void freeDroppedNodes()
-{
-  for (auto& [node, free] : s_droppedWhileReading)
-    if (node->getRefCount() == 0)
-      free();
-  s_droppedWhileReading.clear();
-}
-
-#define FORMWRIGHT_FREE_ON_LAST_UNREF(K) SoType::overrideType(K::getClassTypeId(), &FreedNode<K>::create);
 
 SoFormwright* firstInterfaceNode(SoSeparator* root)
 {
@@ -123,7 +82,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
   // Lives for the process, as an application's would.
   new QApplication(*argc, *argv);
   SoFormwright::init();
-  SO_FORMWRIGHT_FOR_EACH_CLASS(FORMWRIGHT_FREE_ON_LAST_UNREF)
+  freeInterfaceNodesOnLastUnref();
   SoDebugError::setHandlerCallback(dropError, nullptr);
   SoReadError::setHandlerCallback(dropError, nullptr);
   return 0;
@@ -131,12 +90,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-  SoInput input;
-  input.setBuffer(data, size);
-  s_reading = true;
-  SoSeparator* root = SoDB::readAll(&input);
-  s_reading = false;
-  freeDroppedNodes();
+  SoSeparator* root = readDialogScene(data, size);
   if (!root)
     return 0;
   root->ref();

@@ -6,6 +6,8 @@
 
 #include <SoFormwright.h>
 
+#include "SoWidgetEvent.h"
+
 #include <Inventor/SbString.h>
 
 #include <QPointer>
@@ -73,7 +75,8 @@ void deleteFrameWidget(QPointer<Frame>& frame, QPointer<QWidget>& componentWidge
 {
   if (componentWidget == frame)
     componentWidget = nullptr;
-  delete frame.data();
+  SoWidgetEvent::deleteWidget(frame.data());
+  frame = nullptr;
 }
 
 }

@@ -6,6 +6,7 @@
 #include <SoTopLevelDialog.h>
 
 #include "SoControl3D.h"
+#include "SoWidgetEvent.h"
 #include "SoFormwrightSubNodeSource.h"
 #include "SoSizeRules.h"
 
@@ -280,7 +281,7 @@ void SoDialogComponent::destroyWidget()
 {
   if (buildMode && componentWidget) {
     if (hasOwnFrame())
-      delete componentWidget;
+      SoWidgetEvent::deleteWidget(componentWidget);
     componentWidget = nullptr;
   }
   // The spacer lives in the placing layout and goes with it; a bare

@@ -122,7 +122,7 @@ void SoDialogRadioButtons::destroyWidget()
   if (buildMode) {
     const int count = std::min(getRealItemCount(), buttonWidgets.getLength());
     for (int i = 0; i < count; ++i) {
-      delete buttonWidgets[i];
+      SoWidgetEvent::deleteWidget(buttonWidgets[i]);
       buttonWidgets[i] = nullptr;
     }
     buttonWidgets.truncate(0);
@@ -151,7 +151,7 @@ void SoDialogRadioButtons::changeItems()
   // The placeholder keeps one button, so that the group box never stands
   // empty once it had a choice.
   for (int i = buttonWidgets.getLength() - 1; i >= itemCount; --i) {
-    delete buttonWidgets[i];
+    SoWidgetEvent::deleteWidget(buttonWidgets[i]);
     buttonWidgets[i] = nullptr;
     buttonWidgets.remove(i);
   }

@@ -110,6 +110,12 @@ void SoDialogSlider::createLabelWidget()
   sliderWidget = new SoDialogQSlider(componentWidget, this);
   componentWidget = sliderWidget;
   customSlider = sliderWidget->getCustomSlider();
+  // The bar goes with its frame, which Qt deletes with the window the
+  // application may delete under the node.
+  QObject::connect(sliderWidget, &QObject::destroyed, sliderWidget, [this, bar = customSlider] {
+    if (customSlider == bar)
+      customSlider = nullptr;
+  });
   customSlider->addValueChangedCallback(valueChangeCallback, this);
   // While the value follows the drag, the end of the drag adds nothing.
   if (!continuousTrigger.getValue())

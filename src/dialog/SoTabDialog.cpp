@@ -4,6 +4,7 @@
 #include <SoTopLevelDialog.h>
 
 #include "Qt/SoDialogQTabDialog.h"
+#include "SoChildCheck.h"
 #include "SoControl3D.h"
 #include "SoControlWidgets.h"
 #include "SoFormwrightSubNodeSource.h"
@@ -246,13 +247,20 @@ void SoTabDialog::setSelectedPage(int32_t page)
 
 void SoTabDialog::updateTabPageWidget(int)
 {
+  // A component that stands on two pages has one frame: while a change of
+  // the other page rebuilds it, the list may still hold the frame that went.
+  const auto standing = [this](int i) {
+    QWidget* frame = childrenWidgets[i];
+    return frame && frame == getComponent(i)->getWidget() ? frame : nullptr;
+  };
   const int count = std::min(static_cast<int>(numChildren), childrenWidgets.getLength());
   for (int i = 0; i < count; ++i)
-    if (childrenWidgets[i])
-      childrenWidgets[i]->hide();
+    if (QWidget* frame = standing(i))
+      frame->hide();
   const int32_t page = selectedPage.getValue();
-  if (page >= 0 && page < count && childrenWidgets[page])
-    childrenWidgets[page]->show();
+  if (page >= 0 && page < count)
+    if (QWidget* frame = standing(page))
+      frame->show();
 }
 
 void SoTabDialog::updateTabWidget()
@@ -291,19 +299,15 @@ void SoTabDialog::childrenSensor(void* data, SoSensor* sensor)
 
 void SoTabDialog::addChild(SoDialogComponent* child)
 {
-  if (!child) {
-    SoDebugError::post("SoTabDialog::addChild", "NULL child node");
+  if (!SoChildCheck::accepts(child, this, "SoTabDialog::addChild"))
     return;
-  }
   placeChild(child, numChildren);
 }
 
 void SoTabDialog::insertChild(SoDialogComponent* child, int index)
 {
-  if (!child) {
-    SoDebugError::post("SoTabDialog::insertChild", "NULL child node");
+  if (!SoChildCheck::accepts(child, this, "SoTabDialog::insertChild"))
     return;
-  }
   if (index < 0 || index > numChildren) {
     SoDebugError::post("SoDialogGroup::insertChild", "Index %d is out of range %d - %d", index, 0, numChildren);
     return;
@@ -366,10 +370,8 @@ void SoTabDialog::replaceChild(SoDialogComponent* oldChild, SoDialogComponent* n
 
 void SoTabDialog::replaceChild(int index, SoDialogComponent* newChild)
 {
-  if (!newChild) {
-    SoDebugError::post("SoTabDialog::replaceChild", "NULL child node");
+  if (!SoChildCheck::accepts(newChild, this, "SoTabDialog::replaceChild"))
     return;
-  }
   if (index < 0 || index >= numChildren) {
     SoDebugError::post("SoTabDialog::replaceChild", "Index %d is out of range %d - %d", index, 0, numChildren - 1);
     return;

@@ -17,6 +17,8 @@
 #include <QBoxLayout>
 #include <QWidget>
 
+#include <algorithm>
+
 #include <cstdlib>
 
 #include <Inventor/SbPlane.h>
@@ -206,7 +208,7 @@ void SoTopLevelDialog::destroyWidget()
   if (buildInsideParent)
     delete dialogLayout.data();
   else
-    delete baseWidget.data();
+    SoWidgetEvent::deleteWidget(baseWidget.data());
   baseWidget = nullptr;
   dialogLayout = nullptr;
   SoFormwright::destroyWidget();
@@ -239,9 +241,12 @@ void SoTopLevelDialog::createBaseWidget(QWidget* parent)
 
 void SoTopLevelDialog::changePosition()
 {
-  // Room for the title bar: `position` is where the frame starts.
+  // Room for the title bar: `position` is where the frame starts. Qt keeps
+  // a widget's corners in int, which a place near the ends of the range
+  // overflows: a place is kept within the sizes Qt allows.
   const SbVec2i32 place = position.getValue();
-  baseWidget->move(QPoint(place[0], place[1] + 20));
+  const auto inQtRange = [](int32_t coordinate) { return std::clamp(coordinate, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX); };
+  baseWidget->move(QPoint(inQtRange(place[0]), inQtRange(place[1]) + 20));
 }
 
 void SoTopLevelDialog::setPosition(SbVec2i32& place)

@@ -1,5 +1,7 @@
 #include "SoDialogQCheckBox.h"
 
+#include "SoWidgetEvent.h"
+
 #include <SoDialogCheckBox.h>
 
 #include <QCheckBox>
@@ -67,6 +69,7 @@ void SoDialogQCheckBox::setState(bool checked)
 void SoDialogQCheckBox::eventNotify(int state)
 {
   // A partly checked box counts as checked: the field has two states.
+  const SoWidgetEvent event;
   m_node->eventNotify(state != 0 ? 1 : 0, 0);
 }
 

@@ -1,5 +1,7 @@
 #include "SoDialogQComboBox.h"
 
+#include "SoWidgetEvent.h"
+
 #include <SoDialogComboBox.h>
 
 #include <QComboBox>
@@ -83,6 +85,7 @@ void SoDialogQComboBox::setLabelVisible(bool visible)
 
 void SoDialogQComboBox::eventNotify(int index)
 {
+  const SoWidgetEvent event;
   m_node->eventNotify(index, 0);
 }
 

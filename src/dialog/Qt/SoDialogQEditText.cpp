@@ -1,5 +1,7 @@
 #include "SoDialogQEditText.h"
 
+#include "SoWidgetEvent.h"
+
 #include <SoDialogEditText.h>
 
 #include <QKeyEvent>
@@ -112,16 +114,19 @@ void SoDialogQEditText::setLabelVisible(bool visible)
 
 void SoDialogQEditText::eventNotifyLine(const QString&)
 {
+  const SoWidgetEvent event;
   m_node->eventNotify(2, 0);
 }
 
 void SoDialogQEditText::eventNotifyMultiLine()
 {
+  const SoWidgetEvent event;
   m_node->eventNotify(2, 0);
 }
 
 void SoDialogQEditText::eventEnterPressed()
 {
+  const SoWidgetEvent event;
   m_node->eventNotify(1, 0);
 }
 

@@ -1,5 +1,7 @@
 #include "SoDialogQPushButton.h"
 
+#include "SoWidgetEvent.h"
+
 #include <SoDialogPushButton.h>
 
 #include <QLabel>
@@ -61,6 +63,7 @@ void SoDialogQPushButton::setLabelVisible(bool visible)
 
 void SoDialogQPushButton::eventNotify()
 {
+  const SoWidgetEvent event;
   m_node->eventNotify(0, 0);
 }
 

@@ -1,5 +1,7 @@
 #include "SoDialogQRadioButtons.h"
 
+#include "SoWidgetEvent.h"
+
 #include <SoDialogRadioButtons.h>
 
 #include <QAbstractButton>
@@ -89,6 +91,7 @@ void SoDialogQRadioButtons::setGroupBoxPlace(const QRect& place)
 
 void SoDialogQRadioButtons::eventNotify(int id)
 {
+  const SoWidgetEvent event;
   m_node->eventNotify(id, 0);
 }
 

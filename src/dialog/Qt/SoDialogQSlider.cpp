@@ -1,5 +1,7 @@
 #include "SoDialogQSlider.h"
 
+#include "SoWidgetEvent.h"
+
 #include "SoDialogCustomSlider.h"
 
 #include <SoDialogSlider.h>
@@ -113,6 +115,7 @@ QString SoDialogQSlider::getEditText() const
 // state from the toggle.
 void SoDialogQSlider::eventNotify(int)
 {
+  const SoWidgetEvent event;
   m_node->eventNotify(1, 0);
 }
 

@@ -1,5 +1,7 @@
 #include "SoDialogQTabDialog.h"
 
+#include "SoWidgetEvent.h"
+
 #include <SoTabDialog.h>
 
 #include <QBoxLayout>
@@ -78,6 +80,7 @@ void SoDialogQTabDialog::setTabGeometry(int x, int y, int w, int h)
 
 void SoDialogQTabDialog::eventNotify(int index)
 {
+  const SoWidgetEvent event;
   m_node->eventNotify(index, 0);
 }
 

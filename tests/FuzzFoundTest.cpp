@@ -1,0 +1,123 @@
+// Sequences of actions on built dialogs that once crashed the library, each
+// cut down to what it needs.
+
+#include "SceneTestSupport.h"
+
+#include <SoDialogAuditor.h>
+#include <SoDialogComboBox.h>
+#include <SoDialogIntegerSlider.h>
+#include <SoDialogLabel.h>
+#include <SoRowDialog.h>
+#include <SoTabDialog.h>
+
+#include <functional>
+
+#include <QComboBox>
+#include <QTabWidget>
+#include <QTest>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+// The window deleted by the application takes the slider's bar with it; the
+// slider keeps its value unbuilt and in a later scene build.
+TEST(FuzzFound, aSliderOutlivesTheWindowQtDeleted)
+{
+  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { RowDialog { DEF S DialogIntegerSlider { min 0 max 10 value 5 } } }\n");
+  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+  auto* slider = static_cast<SoDialogIntegerSlider*>(SoNode::getByName("S"));
+  window->buildDialog(nullptr, 0);
+  delete window->getBaseWidget();
+  buildInScene(window);
+  slider->value = 10;
+  EXPECT_FLOAT_EQ(slider->getValue(), 1.0f);
+}
+
+// A tab dialog given itself or the row that holds it as a page refuses it,
+// as every container does: a scene build went round for ever.
+TEST(FuzzFound, aTabDialogRefusesToHoldItself)
+{
+  const std::function<void(SoTabDialog*, SoDialogComponent*)> edits[] = {
+    [](SoTabDialog* tabs, SoDialogComponent* child) { tabs->addChild(child); },
+    [](SoTabDialog* tabs, SoDialogComponent* child) { tabs->insertChild(child, 0); },
+    [](SoTabDialog* tabs, SoDialogComponent* child) { tabs->replaceChild(0, child); },
+  };
+  for (const auto& edit : edits) {
+    auto* window = makeNode<SoTopLevelDialog>();
+    auto* row = makeNode<SoRowDialog>();
+    auto* tabs = makeNode<SoTabDialog>();
+    auto* page = makeNode<SoDialogLabel>();
+    window->addChild(row);
+    row->addChild(tabs);
+    tabs->addChild(page);
+    for (SoDialogComponent* holder : {static_cast<SoDialogComponent*>(tabs), static_cast<SoDialogComponent*>(row)}) {
+      DebugMessages messages;
+      edit(tabs, holder);
+      EXPECT_TRUE(messages.contains("a dialog cannot hold itself"));
+    }
+    ASSERT_EQ(tabs->getNumChildren(), 1);
+    EXPECT_EQ(tabs->getChild(0), page);
+    buildInScene(window);
+  }
+}
+
+// An auditor that removes the control it hears of, or the window's widgets,
+// while Qt still handles the key that changed the control: the widgets go
+// once the event is over, and the window builds again.
+class Remover : public SoDialogAuditor {
+public:
+  std::function<void()> act;
+  void dialogComboBox(SoDialogComboBox*) override { act(); }
+};
+
+TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
+{
+  for (const bool wholeWindow : {false, true}) {
+    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DialogComboBox { items [\"x\", \"y\"] } }\n");
+    auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    Remover remover;
+    remover.act = [&] { wholeWindow ? window->destroyWidget() : window->removeAllChildren(); };
+    window->addAuditor(&remover);
+    window->buildDialog(nullptr, 0);
+    QPointer<QComboBox> combo = window->getBaseWidget()->findChild<QComboBox*>();
+    ASSERT_NE(combo, nullptr);
+    QTest::keyClick(combo, Qt::Key_Down);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(combo.isNull()) << wholeWindow;
+    window->removeAuditor(&remover);
+    window->buildDialog(nullptr, 0);
+    EXPECT_NE(window->getBaseWidget(), nullptr);
+    window->destroyWidget();
+  }
+}
+
+// A window placed at the ends of the int range: its corners must stay within
+// what Qt can hold, or Qt's own arithmetic on them overflows.
+TEST(FuzzFound, aWindowPlacedAtTheEndsOfTheRangeStaysWithinQtsSizes)
+{
+  auto* window = makeNode<SoTopLevelDialog>();
+  window->buildDialog(nullptr, 0);
+  QWidget* base = window->getBaseWidget();
+  window->position.setValue(SbVec2i32(2147483647, -2147483647 - 1));
+  EXPECT_EQ(base->pos(), QPoint(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX + 20));
+  window->position.setValue(SbVec2i32(-2147483647 - 1, 2147483647));
+  EXPECT_EQ(base->pos(), QPoint(-QWIDGETSIZE_MAX, QWIDGETSIZE_MAX + 20));
+  EXPECT_EQ(base->width(), base->geometry().right() - base->geometry().left() + 1);
+}
+
+// A label shared by two pages loses its frame when the page it stood on is
+// replaced; the other page builds it anew, and showing the selected page
+// meanwhile touches no frame that went.
+TEST(FuzzFound, aPageReplacedUnderASharedComponentLeavesItOnItsOtherPage)
+{
+  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DEF T TabDialog { DialogLabel { } DEF B DialogLabel { } } }\n");
+  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+  auto* tabs = static_cast<SoTabDialog*>(SoNode::getByName("T"));
+  auto* shared = static_cast<SoDialogLabel*>(SoNode::getByName("B"));
+  window->buildDialog(nullptr, 0);
+  tabs->replaceChild(0, shared);
+  tabs->replaceChild(0, makeNode<SoDialogLabel>());
+  auto* tabWidget = window->getBaseWidget()->findChild<QTabWidget*>("FWTSoDialogQTabDialogTabWidget");
+  ASSERT_TRUE(tabWidget && shared->getWidget());
+  EXPECT_EQ(shared->getWidget()->parentWidget(), tabWidget->widget(1));
+}
