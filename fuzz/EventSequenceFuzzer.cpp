@@ -15,6 +15,7 @@
 #include <Inventor/errors/SoReadError.h>
 
 #include <QApplication>
+#include <QThread>
 #include <QTimer>
 
 #include <cstddef>
@@ -32,12 +33,15 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(dropQtMessage);
   new QApplication(*argc, *argv);
-  // A file dialog or message box waits for a user in a loop of its own; the
-  // user closes it at once.
+  // A file dialog, a message box or a context menu waits for a user in a
+  // loop of its own; the user closes it at once. Popups opened by the run
+  // itself, outside such a loop, stay for its next actions.
   auto* dismisser = new QTimer;
   QObject::connect(dismisser, &QTimer::timeout, [] {
     if (QWidget* modal = QApplication::activeModalWidget())
       modal->close();
+    else if (QWidget* popup = QApplication::activePopupWidget(); popup && QThread::currentThread()->loopLevel() > 0)
+      popup->close();
   });
   dismisser->start(0);
   SoFormwright::init();
