@@ -69,7 +69,5 @@ int main(int argc, char** argv)
   std::printf("widgets %d x %d, scene %g x %g\n", widgets.width(), widgets.height(), size[0], size[1]);
   scene->unref();
   SoFormwright::finish();
-  // The library leaves the toolkit running: its user ends it.
-  SoDB::finish();
   return errors == 0 && size[0] > 0 ? 0 : 1;
 }
