@@ -5,6 +5,7 @@
 
 #include <SoDialogAuditor.h>
 #include <SoDialogComboBox.h>
+#include <SoDialogEditText.h>
 #include <SoDialogIntegerSlider.h>
 #include <SoDialogLabel.h>
 #include <SoRowDialog.h>
@@ -68,6 +69,7 @@ class Remover : public SoDialogAuditor {
 public:
   std::function<void()> act;
   void dialogComboBox(SoDialogComboBox*) override { act(); }
+  void dialogEditText(SoDialogEditText*) override { act(); }
 };
 
 TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
@@ -89,6 +91,24 @@ TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
     EXPECT_NE(window->getBaseWidget(), nullptr);
     window->destroyWidget();
   }
+}
+
+// The entry hands the text it is built with back to the field, and its
+// auditor hears it at once: one that removes the entry leaves the rest of
+// the entry's build nothing to set up.
+TEST(FuzzFound, anAuditorRemovesAnEntryWhileItIsBuilt)
+{
+  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DialogEditText { editText \"a\" trigOnEnter FALSE } }\n");
+  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+  Remover remover;
+  remover.act = [&] { window->removeAllChildren(); };
+  window->addAuditor(&remover);
+  window->buildDialog(nullptr, 0);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(window->getNumChildren(), 0);
+  EXPECT_NE(window->getBaseWidget(), nullptr);
+  window->removeAuditor(&remover);
+  window->destroyWidget();
 }
 
 // A window placed at the ends of the int range: its corners must stay within

@@ -132,6 +132,10 @@ void SoDialogEditText::createLabelWidget()
   // The widget's own wrapping is that of `wrapLine` TRUE; a file's FALSE
   // takes effect when the field next changes.
   changeEditText();
+  // The entry hands its text back and the auditors hear it at once: one of
+  // them may have taken the entry away.
+  if (!editTextWidget)
+    return;
   changeEditable();
   changeLabel();
   changeLabelAlignment();
@@ -254,6 +258,8 @@ void SoDialogEditText::changeMultiLine()
   editTextWidget->resize(size);
   placeEditTextWidget(index);
   changeEditText();
+  if (!editTextWidget)
+    return;
   changeEditable();
   changeLabel();
   changeLabelAlignment();
@@ -263,31 +269,38 @@ void SoDialogEditText::changeMultiLine()
   updateLabelWidget();
   updateEditTextWidget();
   // A layout shows a new widget of a shown window only later.
-  if (parent && parent->isVisible())
+  if (editTextWidget && parent && parent->isVisible())
     editTextWidget->show();
 }
 
 void SoDialogEditText::changeLabel()
 {
+  if (!editTextWidget)
+    return;
   editTextWidget->setLabelText(SoControlWidgets::toWidgetText(convertToCString(label.getValue(), nullptr)));
   updateLabelWidget();
 }
 
 void SoDialogEditText::changeLabelVisibility()
 {
+  if (!editTextWidget)
+    return;
   editTextWidget->setLabelVisible(labelVisibility.getValue() != 0);
   updateEditTextWidget();
 }
 
 void SoDialogEditText::changeLabelAlignment()
 {
-  editTextWidget->setLabelAlignment(SoControlWidgets::toWidgetAlignment(labelAlignment.getValue()));
+  if (editTextWidget)
+    editTextWidget->setLabelAlignment(SoControlWidgets::toWidgetAlignment(labelAlignment.getValue()));
 }
 
 void SoDialogEditText::processEvent(int) {}
 
 void SoDialogEditText::updateLabelWidget()
 {
+  if (!editTextWidget)
+    return;
   const SbVec2i32 text = getLabelPixelSize(label.getValue(), nullptr);
   editTextWidget->setLabelPlace(SoControlWidgets::sideLabelPlace(height.getValue(), labelSize[0], text[1]));
 }
