@@ -160,6 +160,10 @@ protected:
   QPointer<QWidget> currentScrolledWidget;
   QPointer<QVBoxLayout> dialogLayout;
   int32_t captureDefaults = 1;
+  // An auditor heard during the build may ask for the widgets to go; they go
+  // once the build is over, so the build never works on a deleted layout.
+  bool buildingWidgets = false;
+  bool destroyAfterBuild = false;
   SbVec2i32 defaultSize{0, 0};
   SbVec2i32 defaultMinSize{0, 0};
   SbVec2i32 defaultMaxSize{0, 0};
@@ -195,6 +199,7 @@ private:
   virtual void changeWidth();
   virtual void changeHeight();
 
+  void buildWindow(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode);
   void createBaseWidget(QWidget* parent);
   void changePosition();
   void changeRowSpacing();

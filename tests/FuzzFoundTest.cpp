@@ -95,20 +95,25 @@ TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
 
 // The entry hands the text it is built with back to the field, and its
 // auditor hears it at once: one that removes the entry leaves the rest of
-// the entry's build nothing to set up.
-TEST(FuzzFound, anAuditorRemovesAnEntryWhileItIsBuilt)
+// the entry's build nothing to set up; one that destroys the window's
+// widgets has them go once the window's build is over.
+TEST(FuzzFound, anAuditorRemovesAnEntryOrItsWindowWhileItIsBuilt)
 {
-  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DialogEditText { editText \"a\" trigOnEnter FALSE } }\n");
-  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
-  Remover remover;
-  remover.act = [&] { window->removeAllChildren(); };
-  window->addAuditor(&remover);
-  window->buildDialog(nullptr, 0);
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  EXPECT_EQ(window->getNumChildren(), 0);
-  EXPECT_NE(window->getBaseWidget(), nullptr);
-  window->removeAuditor(&remover);
-  window->destroyWidget();
+  for (const bool wholeWindow : {false, true}) {
+    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DialogEditText { editText \"a\" trigOnEnter FALSE } }\n");
+    auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    Remover remover;
+    remover.act = [&] { wholeWindow ? window->destroyWidget() : window->removeAllChildren(); };
+    window->addAuditor(&remover);
+    window->buildDialog(nullptr, 0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(window->getNumChildren(), wholeWindow ? 1 : 0);
+    EXPECT_EQ(window->getBaseWidget() == nullptr, wholeWindow);
+    window->removeAuditor(&remover);
+    window->buildDialog(nullptr, 0);
+    EXPECT_NE(window->getBaseWidget(), nullptr);
+    window->destroyWidget();
+  }
 }
 
 // A window placed at the ends of the int range: its corners must stay within

@@ -130,6 +130,21 @@ void SoTopLevelDialog::buildDialog(QWidget* parent, int buildInside)
 void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
 {
   const SoScenePass pass(mode, true);
+  const bool outerBuild = !buildingWidgets;
+  if (mode != 0)
+    buildingWidgets = true;
+  buildWindow(parent, useSize, size, mode);
+  if (mode != 0 && outerBuild) {
+    buildingWidgets = false;
+    if (destroyAfterBuild) {
+      destroyAfterBuild = false;
+      destroyWidget();
+    }
+  }
+}
+
+void SoTopLevelDialog::buildWindow(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode)
+{
   SoFormwright::buildWidget(parent, useSize, size, mode);
   if (mode != 0 && !existWidget(baseWidget)) {
     createBaseWidget(parent);
@@ -202,6 +217,10 @@ void SoTopLevelDialog::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
 
 void SoTopLevelDialog::destroyWidget()
 {
+  if (buildingWidgets) {
+    destroyAfterBuild = true;
+    return;
+  }
   for (int i = 0; i < numChildren; ++i)
     static_cast<SoTopComponent*>((*children)[i])->destroyWidget();
   // The widget the dialog was built into stays the application's.
