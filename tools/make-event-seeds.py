@@ -55,3 +55,9 @@ seed("menus-both-forms-and-restart",
      ("RemoveAllChildren", 0, 0, 0), ("QtMouse", 2, 0, 0x77), ("QtMouse", 2, 1, 0x77), ("ShowHideClose", 0, 0, 0),
      ("InsertChild", 1, 0, 14), ("ShowHideClose", 2, 0, 0), ("Restart", 0, 0, 0), ("QtMouse", 1, 0, 0x77),
      ("QtMouse", 1, 1, 0x77), ("ProcessEvents", 0, 0, 0), ("CloseWindow", 0, 0, 0))
+# The entry hands its text to its auditors while the window is built; this
+# auditor destroys the window's widgets there.
+seed("auditor-destroys-window-while-it-is-built",
+     'TopLevelDialog { DialogEditText { editText "a" trigOnEnter FALSE } }',
+     SCENE, ("AttachAuditor", 0, 0, 0), ("ShowHideClose", 3, 0, 0), ("Build", WINDOW, 0, 0),
+     ("ProcessEvents", 0, 0, 0), ("Build", WINDOW, 0, 0))
