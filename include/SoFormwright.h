@@ -266,6 +266,11 @@ protected:
   SbBox3f measure3DText(SoGroup* props, SoText3* text);
   // A group part of the node's 3D form, made if it is missing.
   SoGroup* get3DPart(const char* name);
+  // With `onlyIfDefault`, a part the application gave, as in a dialog file,
+  // keeps its place: the toolkit would set the skin's part over it.
+  SbBool setAnyPartAsDefault(const SbName& part, SoNode* node, SbBool anyPart = TRUE,
+                             SbBool onlyIfDefault = TRUE) override;
+  using SoDragger::setAnyPartAsDefault;
   // Gives each picked point below the node a detail that names the
   // interface node hit and its part.
   static void addInterfaceDetails(SoRayPickAction* action);

@@ -1,4 +1,5 @@
 #include "ControlTestSupport.h"
+#include "SceneTestSupport.h"
 #include "SbFileHelper.h"
 #include "SbStringConvert.h"
 #include "SoPreferences.h"
@@ -185,6 +186,20 @@ TEST(Skins, aSwapKeepsEachSharedGroupAndChangesItsChildrenAndAnUnknownSkinNothin
   SoFormwright::setSkin("no-such-skin");
   EXPECT_EQ(messages.count(), before);
   EXPECT_FLOAT_EQ(topOf(shared), 1.0f);
+}
+
+// The skin's shared group is each instance's part unless the dialog file
+// gave the instance one of its own.
+TEST(Skins, aPartGivenInTheFileKeepsItsPlaceBesideTheSharedGroup)
+{
+  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DEF OWN DialogCheckBox { frame DEF MINE Group {} }"
+            " DEF SKINNED DialogCheckBox {} }\n");
+  buildInScene(static_cast<SoTopLevelDialog*>(SoNode::getByName("W")));
+  const auto frameOf = [](const char* box) {
+    return static_cast<SoSFNode*>(SoNode::getByName(box)->getField("frame"))->getValue();
+  };
+  EXPECT_EQ(frameOf("OWN"), SoNode::getByName("MINE"));
+  EXPECT_EQ(frameOf("SKINNED"), SoNode::getByName("DialogCheckBoxFrame"));
 }
 
 // A class whose skin file is missing or broken falls back on its built-in

@@ -518,6 +518,14 @@ SoGroup* SoFormwright::get3DPart(const char* name)
   return static_cast<SoGroup*>(getAnyPart(name, TRUE));
 }
 
+SbBool SoFormwright::setAnyPartAsDefault(const SbName& part, SoNode* node, SbBool anyPart, SbBool onlyIfDefault)
+{
+  const SoField* field = getField(part);
+  if (onlyIfDefault && field && !field->isDefault())
+    return FALSE;
+  return SoDragger::setAnyPartAsDefault(part, node, anyPart, onlyIfDefault);
+}
+
 // The toolkit reads a path's hidden nodes through a full-path view of the
 // same object, a cast that the undefined-behaviour checker cannot follow.
 __attribute__((no_sanitize("vptr"))) void SoFormwright::addInterfaceDetails(SoRayPickAction* action)
