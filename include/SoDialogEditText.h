@@ -73,6 +73,7 @@ protected:
   void set3DInactive() override;
 
   QPointer<SoDialogQEditText> editTextWidget;
+  int32_t entriesMade = 0;
   // Set while the entry's own signal is in the node: the entry must outlive it.
   bool inEntryEvent = false;
   // The text's pixel size with the entry's margins.
@@ -124,6 +125,9 @@ protected:
 private:
   void sendEntryEvent(unsigned int event);
   void createLabelWidget();
+  // Sets a new entry's text; false when the auditors that heard it left the
+  // rest of the entry's set-up to no one or to another build.
+  bool handTextToNewEntry();
   // Puts a new entry frame into the component's layout at `index`, -1
   // being the end.
   void placeEditTextWidget(int index);

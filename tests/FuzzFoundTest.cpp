@@ -14,6 +14,7 @@
 #include <functional>
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QTest>
 #include <QWidget>
@@ -96,20 +97,46 @@ TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
 // The entry hands the text it is built with back to the field, and its
 // auditor hears it at once: one that removes the entry leaves the rest of
 // the entry's build nothing to set up; one that destroys the window's
-// widgets has them go once the window's build is over.
-TEST(FuzzFound, anAuditorRemovesAnEntryOrItsWindowWhileItIsBuilt)
+// widgets has them go once the window's build is over; one that moves the
+// entry (inserted again, then removed) rebuilds the window inside the
+// entry's own build, which must leave one entry standing.
+TEST(FuzzFound, anAuditorRemovesOrMovesAnEntryOrItsWindowWhileItIsBuilt)
 {
-  for (const bool wholeWindow : {false, true}) {
-    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DialogEditText { editText \"a\" trigOnEnter FALSE } }\n");
+  enum Act { RemoveEntry, DestroyWindow, MoveEntry };
+  for (const Act act : {RemoveEntry, DestroyWindow, MoveEntry}) {
+    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DEF E DialogEditText { editText \"a\" trigOnEnter FALSE } }\n");
     auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    auto* entry = static_cast<SoTopComponent*>(SoNode::getByName("E"));
+    const auto move = [&] {
+      window->insertChild(entry, 0);
+      window->removeChild(1);
+    };
+    int depth = 0;
     Remover remover;
-    remover.act = [&] { wholeWindow ? window->destroyWidget() : window->removeAllChildren(); };
+    remover.act = [&] {
+      if (act == RemoveEntry)
+        window->removeAllChildren();
+      else if (act == DestroyWindow)
+        window->destroyWidget();
+      else if (depth < 3) {
+        ++depth;
+        move();
+        --depth;
+      }
+    };
     window->addAuditor(&remover);
     window->buildDialog(nullptr, 0);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(window->getNumChildren(), wholeWindow ? 1 : 0);
-    EXPECT_EQ(window->getBaseWidget() == nullptr, wholeWindow);
+    if (act == MoveEntry)
+      move();
     window->removeAuditor(&remover);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(window->getNumChildren(), act == RemoveEntry ? 0 : 1) << act;
+    EXPECT_EQ(window->getBaseWidget() == nullptr, act == DestroyWindow) << act;
+    if (act == MoveEntry) {
+      move();
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      EXPECT_EQ(window->getBaseWidget()->findChildren<QLineEdit*>().size(), 1);
+    }
     window->buildDialog(nullptr, 0);
     EXPECT_NE(window->getBaseWidget(), nullptr);
     window->destroyWidget();

@@ -131,10 +131,7 @@ void SoDialogEditText::createLabelWidget()
   componentWidget = editTextWidget;
   // The widget's own wrapping is that of `wrapLine` TRUE; a file's FALSE
   // takes effect when the field next changes.
-  changeEditText();
-  // The entry hands its text back and the auditors hear it at once: one of
-  // them may have taken the entry away.
-  if (!editTextWidget)
+  if (!handTextToNewEntry())
     return;
   changeEditable();
   changeLabel();
@@ -144,6 +141,16 @@ void SoDialogEditText::createLabelWidget()
   changeEdgeStyle();
   placeEditTextWidget(-1);
   componentLayout->addItem(layoutSpacer);
+}
+
+bool SoDialogEditText::handTextToNewEntry()
+{
+  // The entry hands its text back and the auditors hear it at once: one of
+  // them may have taken the entry away, or moved it in the tree so that a
+  // build nested in this one made and set up an entry of its own.
+  const int32_t thisEntry = ++entriesMade;
+  changeEditText();
+  return editTextWidget && entriesMade == thisEntry;
 }
 
 void SoDialogEditText::placeEditTextWidget(int index)
@@ -257,8 +264,7 @@ void SoDialogEditText::changeMultiLine()
   componentWidget = editTextWidget;
   editTextWidget->resize(size);
   placeEditTextWidget(index);
-  changeEditText();
-  if (!editTextWidget)
+  if (!handTextToNewEntry())
     return;
   changeEditable();
   changeLabel();
