@@ -177,15 +177,17 @@ void printTree(SoFormwright* node, int depth)
 // with auditors of its own no longer hands the actions in its pages on to
 // the window's, so it gets the general one as well. The dialogs that
 // launchers open are left alone, as their controls are not printed.
-void listenToPages(SoFormwright* node, PreviewTabAuditor* pages, PreviewAuditor* actions)
+void listenToPages(SoFormwright* node, PreviewTabAuditor* pages, PreviewAuditor* actions, bool inScene)
 {
   if (node->isOfType(SoTabDialog::getClassTypeId())) {
     static_cast<SoTabDialog*>(node)->addAuditor(pages);
     static_cast<SoTabDialog*>(node)->addAuditor(actions);
+    if (inScene)
+      pages->followInScene(static_cast<SoTabDialog*>(node));
   }
   if (node->isOfType(SoTopLevelDialog::getClassTypeId()) || node->isOfType(SoDialogGroup::getClassTypeId()))
     for (SoFormwright* child : childrenOf(node))
-      listenToPages(child, pages, actions);
+      listenToPages(child, pages, actions, inScene);
 }
 
 // The window that shows a node, referenced: the node's own if it is a
@@ -391,7 +393,7 @@ int run(const QCommandLineParser& options)
     SoFormMode::setSceneForm(true);
   const auto build = [&](SoTopLevelDialog* dialog) {
     dialog->addAuditor(&auditor);
-    listenToPages(dialog, &pages, &auditor);
+    listenToPages(dialog, &pages, &auditor, inScene);
     dialog->buildDialog(nullptr, 0);
   };
   build(shown.dialog);

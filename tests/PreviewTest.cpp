@@ -90,6 +90,16 @@ TEST(Preview, aClickInTheSceneWorksTheControlUnderItAndPrintsItsLine)
   const PreviewRun run = preview({file, "--3d", "--click", middle, "--click", middle});
   EXPECT_EQ(run.status, 0) << run.err.toStdString();
   EXPECT_EQ(run.out, "DialogCheckBox \"binary\": TRUE\nDialogCheckBox \"binary\": FALSE\n");
+
+  // A page chosen in the scene reaches no auditor, yet prints as in the 2D
+  // form. Tabs with one-letter titles are 39 wide; the strip starts 4 + 3
+  // units in from the plate's edge, its middle 23 + 13 below its top.
+  writeFile(file, "#Inventor V2.1 ascii\nTopLevelDialog { margin 0 width 300 TabDialog { auditorID \"pages\"\n"
+                 "DialogLabel { label \"A\" } DialogLabel { label \"B\" } } }\n");
+  const QString secondTab = QString("%1,%2").arg(2 * (10 + 7 + 39 + 19)).arg(2 * (10 + 36));
+  const PreviewRun tabs = preview({file, "--3d", "--click", secondTab, "--click", secondTab});
+  EXPECT_EQ(tabs.status, 0) << tabs.err.toStdString();
+  EXPECT_EQ(tabs.out, "TabDialog \"pages\": 1\n");
 }
 
 // Given a bad file the preview ends by itself: 0 when it rendered the dialog,

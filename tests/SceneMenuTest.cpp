@@ -241,20 +241,23 @@ protected:
   PageListener listener;
 };
 
-// Pages chosen by a press are heard; pages out of range or removed fall
-// back unheard; a page added or removed after the build brings or takes
-// its tab.
+// Pages chosen by a press in the scene, out of range or removed change
+// unheard: no auditor hears a page that no widget chose. A page added or
+// removed after the build brings or takes its tab.
 TEST_F(SceneTabs, aPressOnATabShowsItsPageAloneAndTabsFollowThePages)
 {
   build(3, 300);
   expectOnlyPageShown(0);
+  // A page's component is not stretched to the page: it keeps its least size.
+  auto* first = static_cast<SoDialogComponent*>(tabs->getChild(0));
+  EXPECT_EQ(first->width.getValue(), first->minWidth.getValue());
+  EXPECT_EQ(first->height.getValue(), first->minHeight.getValue());
   // A press on the tab already chosen is no choice.
   for (int slot : {2, 2, 1}) {
     pressTab(slot);
     EXPECT_EQ(tabs->selectedPage.getValue(), slot);
     expectOnlyPageShown(slot);
   }
-  EXPECT_EQ(listener.calls, 2);
   for (int outOfRange : {9, 3, -1}) {
     tabs->selectedPage = outOfRange;
     EXPECT_EQ(tabs->selectedPage.getValue(), 1) << outOfRange;
@@ -270,7 +273,7 @@ TEST_F(SceneTabs, aPressOnATabShowsItsPageAloneAndTabsFollowThePages)
   EXPECT_EQ(tabs->tabCount(), 3);
   EXPECT_EQ(tabs->selectedPage.getValue(), 0);
   expectOnlyPageShown(0);
-  EXPECT_EQ(listener.calls, 3);
+  EXPECT_EQ(listener.calls, 0);
 }
 
 TEST_F(SceneTabs, theScrollButtonsShowDownAtThePressAndMoveTheStripByOneAtRelease)
@@ -286,6 +289,8 @@ TEST_F(SceneTabs, theScrollButtonsShowDownAtThePressAndMoveTheStripByOneAtReleas
   EXPECT_EQ(whichChild(tabs->rButtonSwtch.getValue()), 0);
   EXPECT_FALSE(tabs->tabShown(0));
   EXPECT_TRUE(tabs->tabShown(5));
+  // The first tab, out of view, is placed again only when it comes back.
+  tabs->addChild(page(6));
   pressTab(0);
   EXPECT_EQ(tabs->selectedPage.getValue(), 1);
   scene.click(button(26), kStripMiddle);

@@ -615,10 +615,11 @@ void SoTabDialog::change3DPages()
     SoDialogComponent* child = getComponent(i);
     SbVec3f childOrigin = origin;
     child->set3DParentTranslation(childOrigin);
-    // Each page's component fills the page, 2 in from the plate's corner.
-    SbVec2i32 size = pageArea;
+    // A page's component is dictated a size of 2 where the page has room,
+    // and so falls back on its minimum size, 2 in from the plate's corner.
+    SbVec2i32 dictated(pageArea[0] != 0 ? 2 : 0, pageArea[1] != 0 ? 2 : 0);
     SbVec2i32 place(2, 2);
-    child->buildWidget(nullptr, size, place, 0);
+    child->buildWidget(nullptr, dictated, place, 0);
     if (i >= static_cast<int>(tabs.size()))
       makeTab();
     update3DTabDialogPage(i);
@@ -696,9 +697,11 @@ void SoTabDialog::update3DTabDialogPage(int page)
   tabSizes.set1Value(page, SbVec2f(tabWidth, static_cast<float>(tabHeight)));
   // Each tab's translation goes on from the tab before: the strip's tabs
   // share one group, and a hidden tab passes on no translation.
+  // The first tab, scrolled off to the left, is placed again when it comes
+  // back into view.
   if (page == firstVisiblePage)
     placeFirstVisibleTab();
-  else
+  else if (page > 0)
     tab.translation->translation.setValue(tabSizes[page - 1][0] / 2 + tabWidth / 2, 0.0f, 0.0f);
   undoTransformMatrix(tab.frameSeparator, tab.transform);
   tab.textTranslation->translation.setValue(-titleWidth / 2, -(box.getMax()[1] + box.getMin()[1]) / 2, 0.0f);
@@ -835,8 +838,12 @@ void SoTabDialog::draggerStartCallback3D()
   if (page < 0 || page == selectedPage.getValue())
     return;
   tabClicked = 1;
-  // The person chose the page, as with a tab of the 2D form.
-  eventNotify(static_cast<unsigned int>(page), 0);
+  // A page chosen in the scene comes from no widget: no auditor hears it.
+  setFieldUnwatched(selectedPage, selectedPageSensor, page);
+  if (buildMode)
+    changeSelectedPage();
+  if (follows3DForm())
+    change3DSelectedPage();
 }
 
 void SoTabDialog::draggerFinishCallback3D()
