@@ -141,6 +141,15 @@ TEST_F(SceneMenu, entriesFireAtReleaseAndCloseTheMenu)
   EXPECT_EQ(radio->selectedItem.getValue(), 1);
   EXPECT_EQ(heard.events, (std::vector<std::string>{"push", "on", "item 1", "item 1"}))
     << "the chosen item, chosen again, still fires";
+
+  // A disabled entry takes no press until it is enabled again.
+  push->enable = FALSE;
+  clickTitle(file);
+  scene.click(x, -50.0f);
+  EXPECT_EQ(heard.events.size(), 4u);
+  push->enable = TRUE;
+  scene.click(x, -50.0f);
+  EXPECT_EQ(heard.events.back(), "push");
 }
 
 TEST_F(SceneMenu, aCascadeOpensRightOfItsItemAtItsTop)

@@ -10,6 +10,8 @@
 
 #include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoPickStyle.h>
 #include <Inventor/nodes/SoScale.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoTransform.h>
@@ -69,8 +71,12 @@ void SoMenuBar::create3DBar()
   switchNode->insertChild(barTranslation, switchNode->findChild(frameGroup));
   barTransform = new SoTransform;
   switchNode->addChild(barTransform);
+  // Greying and dead picks come first, so that they reach all the bar.
+  switchNode->insertChild(pickStyle, 0);
+  switchNode->insertChild(enableMaterial, 0);
   apply3DParentTranslation();
   setBuilt3D(1);
+  change3DEnable();
   depth = -1.0f;
   update3DChildrenSize();
   show3DChildren(0);

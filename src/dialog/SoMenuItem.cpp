@@ -9,6 +9,8 @@
 
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoPickStyle.h>
 #include <Inventor/nodes/SoScale.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoText3.h>
@@ -78,10 +80,14 @@ void SoMenuItem::create3DItem(int)
   labelText = SoControl3D::newFrontText();
   labelGroup->addChild(labelText);
   moveLabelToEnd();
+  // Greying and dead picks come first, so that they reach all the entry.
+  switchNode->insertChild(pickStyle, 0);
+  switchNode->insertChild(enableMaterial, 0);
   apply3DParentTranslation();
   setItemSize(getItemInitSize(), 0);
   // Built before the label is set, so that its box is measured once.
   setBuilt3D(1);
+  change3DEnable();
   change3DLabel();
   // Shown unless its holder hides it: a popup alone has no other.
   show3D(1);
