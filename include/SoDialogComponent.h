@@ -61,6 +61,8 @@ public:
   // A component put into a scene unbuilt builds its 3D form on the first
   // measure of the scene.
   void getBoundingBox(SoGetBoundingBoxAction* action) override;
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
 
 protected:
   virtual void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
@@ -112,8 +114,6 @@ protected:
   void update3DSideLabel();
   // Lays the control's body out again when the label column shows or hides.
   virtual void update3DBody();
-  void change3DLabel() override;
-  void change3DLabelAlignment() override;
 
   // The 3D form's frame: the control's centre, the size of its edge block,
   // and the lift onto the block's top.

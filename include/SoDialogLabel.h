@@ -21,6 +21,9 @@ public:
   // column of its container.
   SbVec2i32 getLabelInitSize() override;
   SbVec2i32 getComponentInitSize() override;
+  // The text broken to the control's width, one value per shown line.
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
 
 protected:
   ~SoDialogLabel() override;
@@ -28,9 +31,6 @@ protected:
   void changeLabel() override;
   void changeLabelAlignment() override;
   void getDefaultSize(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max) override;
-  // The text broken to the control's width, one value per shown line.
-  void change3DLabel() override;
-  void change3DLabelAlignment() override;
 
   // The text's pixel size, its width corrected by the label column.
   SbVec2i32 labelPixelSize{0, 0};

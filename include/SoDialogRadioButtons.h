@@ -27,6 +27,8 @@ public:
   void updateLabelWidget();
   // The buttons are stacked by the group box's layout: nothing to place.
   void updateRadioButtonsWidget();
+  void change3DLabel() override;
+  void change3DLabelAlignment() override;
 
 protected:
   ~SoDialogRadioButtons() override;
@@ -88,8 +90,6 @@ protected:
   void change3DItems() override;
   // Mends a selection out of range, then shows the selected item.
   void change3DSelectedItem() override;
-  void change3DLabel() override;
-  void change3DLabelAlignment() override;
   void change3DLabelVisibility() override;
   // A release after a press on an item chooses it, and tells the auditors
   // even when it was chosen already.

@@ -72,6 +72,7 @@ public:
   // Hands a key to the 3D value box while it takes keys; `data` is the
   // slider.
   static void processKeyEvents(void* data, SoEventCallback* callback);
+  void change3DEnable() override;
 
 protected:
   ~SoDialogSlider() override;
@@ -105,7 +106,6 @@ protected:
   void updateWidget();
   // The text that the 3D form's value zone holds.
   SbString get3DValueFromEdit();
-  void change3DEnable() override;
   // Leaves the 3D value box; what was typed stays in it, not taken.
   void set3DInactive() override;
   // What a key press does in the 3D value box.

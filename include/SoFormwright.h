@@ -92,11 +92,11 @@ public:
   virtual void set3DParentTranslation(SbVec3f& translation);
   virtual void change3DPosition();
   virtual void change3DWidgetEnable(int enabled);
-
-protected:
   virtual void change3DEnable();
   virtual void change3DLabel();
   virtual void change3DLabelAlignment();
+
+protected:
   virtual void set3DInactive();
 
 public:

@@ -36,6 +36,7 @@ public:
   void menuEvent(void* data, int id) override;
   // As wide as the longer of its two texts, with room for the mark.
   SbVec2i32 getItemInitSize() override;
+  void change3DLabel() override;
 
 protected:
   // The entry's action stays in its menu, inert.
@@ -45,7 +46,6 @@ protected:
   void changeEnable() override;
   void change3DState();
   void change3DOnString();
-  void change3DLabel() override;
   SbString shown3DLabel() const override;
 
   SoSFNode chkSep;

@@ -46,6 +46,7 @@ public:
 
   // The first traversal builds an item that no one has built.
   void getBoundingBox(SoGetBoundingBoxAction* action) override;
+  void change3DLabel() override;
 
 protected:
   ~SoMenuItem() override;
@@ -55,7 +56,6 @@ protected:
   void update3DItem();
   // The box of the label as drawn, measured once per text.
   void get3DLabelCachedBBox(SbVec3f& min, SbVec3f& max);
-  void change3DLabel() override;
   // Whether the item lies in a bar that draws the strip for it: such an
   // item has no frame of its own.
   bool standsOnTraversableBar() const;

@@ -31,6 +31,9 @@ public:
   void buildMenu(void* menuParent, int is2D, int position) override;
   // A cascade leaves room for its arrow.
   SbVec2i32 getItemInitSize() override;
+  // The same measure taken on the label as the scene draws it, z 0; the
+  // label's pixel size until the popup stands in the scene.
+  virtual void get3DDefaultSize(SbVec3f& size);
 
   void addAuditor(SoDialogAuditor* auditor);
   void removeAuditor(SoDialogAuditor* auditor);
@@ -68,6 +71,7 @@ public:
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
   void addWriteReference(SoOutput* out, SbBool isFromField = FALSE) override;
+  void change3DLabel() override;
 
 protected:
   ~SoMenuPopup() override;
@@ -83,7 +87,6 @@ protected:
   int32_t firstBuild = 1;
 
   void set3DInactive() override;
-  void change3DLabel() override;
   void draggerStartCallback3D();
 
   SoSFNode frameSep;

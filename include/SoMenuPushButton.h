@@ -28,6 +28,7 @@ public:
   void updateFromSensor(SoSensor* sensor) override;
   // The entry was chosen: its auditors hear of it.
   void menuEvent(void* data, int id) override;
+  void change3DLabel() override;
 
 protected:
   // The entry's action stays in its menu, inert.
@@ -35,7 +36,6 @@ protected:
 
   void changeLabel() override;
   void changeEnable() override;
-  void change3DLabel() override;
   // The entry was chosen in the scene: its auditors hear of it.
   virtual void draggerFinishCallback3D();
 

@@ -138,13 +138,13 @@ public:
   SoChildList* getChildren() const override;
   void write(SoWriteAction* action) override;
   void addWriteReference(SoOutput* out, SbBool isFromField = FALSE) override;
+  void change3DLabel() override;
 
 protected:
   ~SoTopLevelDialog() override;
 
   void changeEnable() override;
   void changeLabel() override;
-  void change3DLabel() override;
   virtual int readChildren(SoInput* in);
   SbBool readInstance(SoInput* in, unsigned short flags) override;
 

@@ -284,6 +284,19 @@ SbVec2i32 SoMenuPopup::getItemInitSize()
   return size;
 }
 
+void SoMenuPopup::get3DDefaultSize(SbVec3f& size)
+{
+  if (!labelText) {
+    const SbVec2i32 pixels = getItemInitSize();
+    size.setValue(static_cast<float>(pixels[0]), static_cast<float>(pixels[1]), 0.0f);
+    return;
+  }
+  SbVec3f min, max;
+  get3DLabelCachedBBox(min, max);
+  const bool cascade = parentNode && parentNode->isOfType(SoMenuPopup::getClassTypeId());
+  size.setValue(max[0] - min[0] + (cascade ? 28.0f : 8.0f), 18.0f, 0.0f);
+}
+
 void SoMenuPopup::addAuditor(SoDialogAuditor* auditor)
 {
   SoFormwright::addAuditor(auditor);
