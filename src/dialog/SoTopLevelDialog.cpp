@@ -616,8 +616,10 @@ void SoTopLevelDialog::create3DTopLevelDialog()
   switchNode->insertChild(frameTransform, switchNode->findChild(labelGroup));
   labelTranslation = new SoTranslation;
   labelGroup->insertChild(labelTranslation, 0);
+  // The cut stands just ahead of the text, where the translation and the
+  // text's properties already apply.
   labelClip = new SoClipPlane;
-  labelGroup->insertChild(labelClip, 0);
+  labelGroup->addChild(labelClip);
 
   labelText = new SoText3;
   labelText->parts = SoText3::FRONT;
@@ -665,15 +667,16 @@ void SoTopLevelDialog::update3DLabel()
   const SbVec2i32 plate = plateSize();
   const float w = static_cast<float>(plate[0]);
   const float h = static_cast<float>(plate[1]);
-  // What reaches past the gap before the button is cut off: the plane
-  // keeps the side its normal points to.
-  const float cut = w / 2 - kButtonInset - kButtonSize / 2 - kTitleGap;
-  labelClip->plane.setValue(SbPlane(SbVec3f(-1.0f, 0.0f, 0.0f), -cut));
   // Level with the button's centre, or in the middle of the strip.
+  const float left = -w / 2 + kButtonInset;
   if (minimized.getValue())
-    labelTranslation->translation.setValue(-w / 2 + kButtonInset, -middle, 0.0f);
+    labelTranslation->translation.setValue(left, -middle, 0.0f);
   else
-    labelTranslation->translation.setValue(-w / 2 + kButtonInset, h / 2 - middle - kButtonInset, 0.0f);
+    labelTranslation->translation.setValue(left, h / 2 - middle - kButtonInset, 0.0f);
+  // What reaches past the gap before the button is cut off: the plane,
+  // placed after the translation, keeps the side its normal points to.
+  const float cut = w / 2 - kButtonInset - kButtonSize / 2 - kTitleGap;
+  labelClip->plane.setValue(SbPlane(SbVec3f(-1.0f, 0.0f, 0.0f), -(cut - left)));
 }
 
 SbVec3f SoTopLevelDialog::childrenOrigin()
