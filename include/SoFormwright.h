@@ -281,6 +281,8 @@ protected:
   // deletes the window they stood in. Such a node takes field changes as an
   // unbuilt one.
   virtual bool hasLostWidgets() const { return false; }
+  // Takes such a node for an unbuilt one in the widget form.
+  void forgetLostWidgets();
 
   int buildMode = 0;
   QPointer<QWidget> parentWidget;

@@ -8,6 +8,7 @@
 #include <SoDialogEditText.h>
 #include <SoDialogIntegerSlider.h>
 #include <SoDialogLabel.h>
+#include <SoDialogRadioButtons.h>
 #include <SoRowDialog.h>
 #include <SoTabDialog.h>
 
@@ -21,18 +22,22 @@
 
 #include <gtest/gtest.h>
 
-// The window deleted by the application takes the slider's bar with it; the
-// slider keeps its value unbuilt and in a later scene build.
-TEST(FuzzFound, aSliderOutlivesTheWindowQtDeleted)
+// The window deleted by the application takes the controls' widgets with
+// it; the controls keep their values unbuilt and in a later scene build,
+// which passes nothing on to the widgets that went.
+TEST(FuzzFound, controlsOutliveTheWindowQtDeleted)
 {
-  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { RowDialog { DEF S DialogIntegerSlider { min 0 max 10 value 5 } } }\n");
+  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { RowDialog { DEF S DialogIntegerSlider { min 0 max 10 value 5 }"
+            " DEF R DialogRadioButtons { items [\"a\", \"b\"] selectedItem 1 } } }\n");
   auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
   auto* slider = static_cast<SoDialogIntegerSlider*>(SoNode::getByName("S"));
+  auto* radio = static_cast<SoDialogRadioButtons*>(SoNode::getByName("R"));
   window->buildDialog(nullptr, 0);
   delete window->getBaseWidget();
   buildInScene(window);
   slider->value = 10;
   EXPECT_FLOAT_EQ(slider->getValue(), 1.0f);
+  EXPECT_EQ(radio->selectedItem.getValue(), 1);
 }
 
 // A tab dialog given itself or the row that holds it as a page refuses it,

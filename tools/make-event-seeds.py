@@ -61,3 +61,8 @@ seed("auditor-destroys-window-while-it-is-built",
      'TopLevelDialog { DialogEditText { editText "a" trigOnEnter FALSE } }',
      SCENE, ("AttachAuditor", 0, 0, 0), ("ShowHideClose", 3, 0, 0), ("Build", WINDOW, 0, 0),
      ("ProcessEvents", 0, 0, 0), ("Build", WINDOW, 0, 0))
+# The application deletes the window; the scene build that follows must pass
+# nothing on to the radio buttons' widgets that went with it.
+seed("window-deleted-then-radio-buttons-built-in-scene",
+     'TopLevelDialog { DialogRadioButtons { items ["a", "b"] selectedItem 1 } }',
+     WINDOW, ("DeleteHost", 0, 0, 0), ("Build", SCENE, 0, 0), ("WriteField", 1, 0, 0))

@@ -308,8 +308,12 @@ void SoFormwright::buildWidget(QWidget* parent, SbVec2i32&, SbVec2i32&, int mode
   if (mode != 0) {
     buildMode = mode;
     parentWidget = parent;
-  } else if (!isBuilt3D()) {
-    create3DFormwright();
+  } else {
+    // The scene form's steps pass changes on to the widgets, which Qt may
+    // have deleted with their window.
+    forgetLostWidgets();
+    if (!isBuilt3D())
+      create3DFormwright();
   }
   makeFieldSensor(enableSensor, enable);
   makeFieldSensor(labelSensor, label);
@@ -435,9 +439,16 @@ void SoFormwright::create3DFormwright()
   labelBBox = kEmptyLabelBox;
 }
 
+void SoFormwright::forgetLostWidgets()
+{
+  if (buildMode && hasLostWidgets())
+    buildMode = 0;
+}
+
 void SoFormwright::keepPressPathCB(void*, SoDragger* dragger)
 {
   auto* node = static_cast<SoFormwright*>(dragger);
+  node->forgetLostWidgets();
   if (node->pressPath)
     node->pressPath->unref();
   const SoPath* picked = node->getPickPath();
@@ -641,8 +652,7 @@ int SoFormwright::existWidget(QWidget* widget)
 void SoFormwright::fieldChangedCB(void* data, SoSensor* sensor)
 {
   auto* node = static_cast<SoFormwright*>(data);
-  if (node->buildMode && node->hasLostWidgets())
-    node->buildMode = 0;
+  node->forgetLostWidgets();
   node->updateFromSensor(sensor);
 }
 
