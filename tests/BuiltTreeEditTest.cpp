@@ -2,19 +2,15 @@
 // order, a removed child leaves no room behind, and a window that may not be
 // resized is held at its negotiated size.
 
-#include "EventLog.h"
 #include "TestSupport.h"
 
 #include <SoDialogGroup.h>
 #include <SoDialogLabel.h>
-#include <SoMenuRadioButtons.h>
 #include <SoTopLevelDialog.h>
 
-#include <QAction>
 #include <QApplication>
 #include <QFrame>
 #include <QLayout>
-#include <QMenu>
 #include <QWidget>
 
 namespace {
@@ -135,40 +131,6 @@ TEST(BuiltTreeEdit, windowEndsOnceWhateverWidgetsTheApplicationHandedIt)
   window->setCurrentFocusedWidget(label->getWidget());
   window->setCurrentScrolledWidget(window->getBaseWidget());
   delete window;
-}
-
-// However the application ends the widgets a dialog was shown in, entries
-// changed meanwhile touch no freed menu, and a later build gives back menus
-// whose entries reach the auditors.
-TEST(BuiltTreeEdit, windowBuiltAgainAfterItsWidgetsWentHasWorkingMenus)
-{
-  // 0: the host deleted; 1: destroyWidget, then the host deleted; 2: a window of its own destroyed.
-  for (int loss : {0, 1, 2}) {
-    auto* window = static_cast<SoTopLevelDialog*>(
-      readScene("#Inventor V2.1 ascii\nTopLevelDialog { MenuBar { MenuPopup {\n"
-                "MenuPushButton { auditorID \"open\" } MenuCheckBox { auditorID \"wrap\" }\n"
-                "MenuRadioButtons { auditorID \"pick\" items [\"a\", \"b\"] } } } }")
-        ->getChild(0));
-    EventLog log;
-    window->addAuditor(&log);
-    auto* host = new QWidget;
-    window->buildDialog(loss == 2 ? nullptr : host, loss == 2 ? 0 : 1);
-    if (loss != 0)
-      window->destroyWidget();
-    EXPECT_TRUE(loss != 1 || host->findChildren<QWidget*>().isEmpty()) << "the application's widget is left empty";
-    delete host;
-    static_cast<SoMenuRadioButtons*>(window->searchForAuditorId("pick"))->items.set1Value(2, "c");
-    window->buildDialog(nullptr, 0);
-    auto* menu = window->getBaseWidget()->findChild<QMenu*>();
-    ASSERT_NE(menu, nullptr) << loss;
-    for (QAction* entry : menu->actions())
-      entry->trigger();
-    const std::vector<std::string> heard{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1",
-                                        "radio:pick:2"};
-    EXPECT_EQ(log.entries, heard) << loss;
-    window->removeAuditor(&log);
-    window->destroyWidget();
-  }
 }
 
 }

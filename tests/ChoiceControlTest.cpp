@@ -107,6 +107,14 @@ TEST(DialogChoice, placeholderStandsForTheEmptyList)
   fresh->removeItem(0);
   EXPECT_EQ(fresh->items.getNum(), 0);
 
+  // A list given one real entry before any build is no empty list.
+  SoDialogChoice* one = makeChoice<SoDialogRadioButtons>("", {"B"});
+  one->insertItem(0, "A");
+  EXPECT_EQ(itemsOf(one), (std::vector<std::string>{"A", "B"}));
+  SoDialogChoice* single = makeChoice<SoDialogComboBox>("", {"B"});
+  single->removeItem(0);
+  EXPECT_EQ(single->items.getNum(), 0);
+
   // A list read empty is built with the placeholder in it.
   ControlWindow window;
   window.build(fresh);
@@ -116,19 +124,6 @@ TEST(DialogChoice, placeholderStandsForTheEmptyList)
   window.build(empty);
   EXPECT_EQ(itemsOf(empty), std::vector<std::string>{""});
   EXPECT_EQ(comboOf(window)->count(), 1);
-}
-
-// A list given one real entry before any build is no empty list.
-TEST(DialogChoice, oneEntryListIsEditedBeforeAnyBuild)
-{
-  for (SoDialogChoice* node : {static_cast<SoDialogChoice*>(makeChoice<SoDialogComboBox>("", {"B"})),
-                               static_cast<SoDialogChoice*>(makeChoice<SoDialogRadioButtons>("", {"B"}))}) {
-    node->insertItem(0, "A");
-    EXPECT_EQ(itemsOf(node), (std::vector<std::string>{"A", "B"}));
-  }
-  SoDialogChoice* node = makeChoice<SoDialogComboBox>("", {"B"});
-  node->removeItem(0);
-  EXPECT_EQ(node->items.getNum(), 0);
 }
 
 TEST(DialogChoice, removingTheLastRealEntryOfShownButtonsBringsThePlaceholderBack)

@@ -35,16 +35,6 @@ TEST(DialogComponent, sizeTakesDefaultsForZerosAndClampsWithTheMaximumLast)
   EXPECT_EQ(triple.min, SbVec2i32(25, 25));
   EXPECT_EQ(triple.max, SbVec2i32(32767, 32767));
 
-  ProbeComponent* narrow = makeComponent();
-  narrow->width = 50;
-  narrow->minWidth = 100;
-  narrow->height = 500;
-  narrow->maxHeight = 60;
-  triple = sizeOf(narrow);
-  EXPECT_EQ(triple.size, SbVec2i32(100, 60));
-  EXPECT_EQ(triple.min, SbVec2i32(100, 25));
-  EXPECT_EQ(triple.max, SbVec2i32(32767, 60));
-
   ProbeComponent* crossed = makeComponent();
   crossed->minWidth = 300;
   crossed->maxWidth = 120;

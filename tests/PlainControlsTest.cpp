@@ -314,12 +314,6 @@ TEST(DialogSeparator, orientationShowsAtTheNextBuild)
   EXPECT_EQ(node->getWidget()->maximumWidth(), 8);
   EXPECT_EQ(lineOf(window)->frameShape(), QFrame::VLine);
   EXPECT_EQ(lineOf(window)->geometry(), QRect(3, 3, 2, 84));
-
-  SoDialogSeparator* other = makeNode<SoDialogSeparator>();
-  other->setOrientationHorz(0);
-  other->getSize(size, min, max);
-  EXPECT_EQ(size, SbVec2i32(8, 0));
-  EXPECT_EQ(max, SbVec2i32(8, 32767));
 }
 
 TEST(DialogCustom, givesTheApplicationAFrameWithALayoutThatDiesWithIt)

@@ -73,10 +73,15 @@ std::vector<std::string> lines(SoText3* text)
   return result;
 }
 
-// One control of a fixed size in a dialog in the scene, heard by the
+// Controls of a fixed size in a dialog in the scene, heard by the
 // dialog's auditor.
 class SceneControls : public ::testing::Test {
 protected:
+  SceneControls()
+  {
+    dialog->addAuditor(&heard);
+    scene.root->addChild(dialog);
+  }
   template <class Control>
   Control* place(int w, int h, bool build = true)
   {
@@ -87,8 +92,6 @@ protected:
     control->fixedWidth = TRUE;
     control->fixedHeight = TRUE;
     dialog->addChild(control);
-    dialog->addAuditor(&heard);
-    scene.root->addChild(dialog);
     if (build)
       buildInScene(dialog);
     return control;
@@ -97,6 +100,12 @@ protected:
   static SbVec2f centre(SoDialogComponent* c)
   {
     return SbVec2f(4 + c->width.getValue() / 2.0f, -23 - c->height.getValue() / 2.0f);
+  }
+  // The middle of the words "Label text" of a control's label, which starts
+  // 3 into the control.
+  static float labelTextX()
+  {
+    return 4 + 3 + QFontMetrics(SoFormwright::getFormwrightFont()).horizontalAdvance("Label text") / 2.0f;
   }
 
   // The nodes live on after the test; the auditor does not.
@@ -131,8 +140,7 @@ TEST_F(SceneControls, aPushButtonFiresAtReleaseWhereverThePointerWentAndNotFromI
   scene.button(SoButtonEvent::UP, 390.0f, -390.0f);
   EXPECT_EQ(heard.events.size(), 2u) << "released outside, it fires all the same";
 
-  const float labelWidth = static_cast<float>(QFontMetrics(SoFormwright::getFormwrightFont()).horizontalAdvance("Label text"));
-  scene.click(c[0] - 100 + 3 + labelWidth / 2, c[1]);
+  scene.click(labelTextX(), c[1]);
   EXPECT_EQ(heard.events.size(), 2u) << "a press on the label does nothing";
 
   button->enable = FALSE;
@@ -163,8 +171,7 @@ TEST_F(SceneControls, aCheckBoxTogglesAtReleaseInTheSceneAndInItsWindow)
   EXPECT_EQ(lines(box->onOffText), std::vector<std::string>{"on"}) << "no off text: the on text in both states";
   EXPECT_EQ(heard.events, (std::vector<std::string>{"checked", "unchecked"}));
 
-  const float labelWidth = static_cast<float>(QFontMetrics(SoFormwright::getFormwrightFont()).horizontalAdvance("Label text"));
-  scene.click(c[0] - 100 + 3 + labelWidth / 2, c[1]);
+  scene.click(labelTextX(), c[1]);
   EXPECT_FALSE(box->state.getValue()) << "a press on the label does nothing";
   EXPECT_EQ(heard.events.size(), 2u);
 }
@@ -238,39 +245,29 @@ struct Combo : SoDialogComboBox {
 // plate that puts its first child 4 in and 23 down. The combo's frame starts
 // 2 after the label column and ends 3 before its edge; item i hangs
 // 22 * (i + 1) below the frame's centre.
-class SceneComboBox : public ::testing::Test {
+class SceneComboBox : public SceneControls {
 protected:
   void SetUp() override
   {
+    place<SoDialogPushButton>(200, 30, false);
+    combo = place<Combo>(200, 30, false);
     combo->label = "Label text";
     const char* items[] = {"one", "two", "three"};
     combo->items.setValues(0, 3, items);
-    for (SoDialogComponent* control : std::vector<SoDialogComponent*>{button, combo}) {
-      control->width = 200;
-      control->height = 30;
-      control->fixedWidth = control->fixedHeight = TRUE;
-      dialog->addChild(control);
-    }
-    dialog->addAuditor(&heard);
-    scene.root->addChild(dialog);
     buildInScene(dialog);
     frameLeft = 4 + 3 + combo->labelSize[0] + 2;
     frameX = (frameLeft + 201) / 2;
   }
   static float itemY(int i) { return y - 22.0f * (i + 1); }
   static constexpr float y = -23 - 30 - 15;
-  Scene scene;
-  SoTopLevelDialog* dialog = makeNode<SoTopLevelDialog>();
-  SoDialogPushButton* button = makeNode<SoDialogPushButton>();
-  Combo* combo = new Combo;
-  Heard heard;
+  Combo* combo = nullptr;
   float frameLeft = 0, frameX = 0;
 };
 
 TEST_F(SceneComboBox, opensFromTextFrameOrButtonChoosesAnItemAndClosesForAnotherControl)
 {
   const QFontMetrics metrics(SoFormwright::getFormwrightFont());
-  scene.click(4 + 3 + metrics.horizontalAdvance("Label text") / 2.0f, y);
+  scene.click(labelTextX(), y);
   EXPECT_FALSE(combo->isOpen()) << "the label";
   // The text starts 4 into the frame; the 16-wide button is centred 11 in.
   for (float x : {frameLeft + 4 + metrics.horizontalAdvance("o") / 2.0f, frameX, 201.0f - 11}) {

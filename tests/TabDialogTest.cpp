@@ -20,10 +20,13 @@ class PageListener : public SoTabDialogAuditor {
 public:
   int calls = 0;
   int pageHeard = -1;
+  int pageToChoose = -1; // chosen in turn, if set
   void tabDialog(SoTabDialog* node) override
   {
     ++calls;
     pageHeard = node->selectedPage.getValue();
+    if (pageToChoose >= 0)
+      node->selectedPage = pageToChoose;
   }
 };
 
@@ -164,18 +167,11 @@ TEST(TabDialog, pageChangesAreHeardOnceAndOnlyFromThePerson)
   QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(2).center());
   EXPECT_EQ(pages.calls, 1) << "the tab already selected";
   EXPECT_EQ(onTabs.calls + onWindow.calls, 0);
-}
 
-TEST(TabDialog, anAuditorsChangeOfPageDuringAClickLeavesThePersonsTab)
-{
-  struct BackToFirst : SoTabDialogAuditor {
-    void tabDialog(SoTabDialog* node) override { node->selectedPage = 0; }
-  } auditor;
-  BuiltTabs built = buildTabs("", page("One") + page("Two") + page("Three"));
-  built.tabs->addAuditor(&auditor);
-  QTabBar* bar = built.tabWidget->tabBar();
-  QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(2).center());
-  EXPECT_EQ(built.tabWidget->currentIndex(), 2);
+  // An auditor's change of page during the click leaves the person's tab.
+  pages.pageToChoose = 0;
+  QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(1).center());
+  EXPECT_EQ(built.tabWidget->currentIndex(), 1);
 }
 
 TEST(TabDialog, removingTheSelectedPageFallsBackToThePreviousSelection)

@@ -1,4 +1,5 @@
 #include "ControlTestSupport.h"
+#include "EventLog.h"
 
 #include <SoColumnDialog.h>
 #include <SoDialogGroup.h>
@@ -11,6 +12,8 @@
 
 #include <Inventor/misc/SoChildList.h>
 
+#include <QAction>
+#include <QMenu>
 #include <QTabWidget>
 #include <QTextEdit>
 
@@ -342,23 +345,30 @@ TEST(WindowLayout, rowsAndColumnsBuildTheirFramesLayoutsAndEnabledState)
 }
 
 // The application deletes the host a dialog was built into, or the dialog's
-// own window, or destroys the widgets first: the nodes take values unbuilt
-// and a later build makes a working window.
+// own window, or destroys the widgets first, with a host or without: the
+// nodes take values unbuilt, and a later build makes a working window whose
+// menu entries reach the auditors.
 TEST(WindowLayout, widgetsDeletedUnderTheDialogAreForgottenAndBuiltAgain)
 {
   const char* changes[][2] = {{"L", "label \"b\" enable FALSE width 300 edgeStyle SHADOW_IN"}, {"S", "value 7"},
                               {"E", "editText \"typed\" multiLine TRUE"}, {"R", "items [\"p\", \"q\"]"},
-                              {"C", "items [\"x\", \"y\"]"}, {"T", "selectedPage 1"}, {"W", "label \"again\""}};
-  for (const int loss : {0, 1, 2}) {
-    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { MenuBar { MenuPopup { MenuPushButton { } } } RowDialog { "
-              "DEF L DialogLabel { } DEF E DialogEditText { } DEF S DialogIntegerSlider { } DEF C DialogComboBox { } "
-              "DEF R DialogRadioButtons { items \"r\" } DEF K DialogCheckBox { } DEF P DialogPushButton { } "
-              "DialogSeparator { } } DEF T TabDialog { DialogLabel { } DialogLabel { } } }\n");
+                              {"C", "items [\"x\", \"y\"]"}, {"T", "selectedPage 1"}, {"W", "label \"again\""},
+                              {"M", "items [\"a\", \"b\", \"c\"]"}};
+  for (const int loss : {0, 1, 2, 3}) {
+    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { MenuBar { MenuPopup { MenuPushButton { auditorID \"open\" } "
+              "MenuCheckBox { auditorID \"wrap\" } DEF M MenuRadioButtons { auditorID \"pick\" items [\"a\", \"b\"] } } } "
+              "RowDialog { DEF L DialogLabel { } DEF E DialogEditText { } DEF S DialogIntegerSlider { } "
+              "DEF C DialogComboBox { } DEF R DialogRadioButtons { items \"r\" } DEF K DialogCheckBox { } "
+              "DEF P DialogPushButton { } DialogSeparator { } } DEF T TabDialog { DialogLabel { } DialogLabel { } } }\n");
     auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    EventLog log;
+    window->addAuditor(&log);
+    const bool ownWindow = loss == 1 || loss == 3;
     auto* host = new QWidget;
-    window->buildDialog(loss == 1 ? nullptr : host, loss == 1 ? 0 : 1);
-    if (loss == 2)
+    window->buildDialog(ownWindow ? nullptr : host, ownWindow ? 0 : 1);
+    if (loss >= 2)
       window->destroyWidget();
+    EXPECT_TRUE(loss != 2 || host->findChildren<QWidget*>().isEmpty()) << "the application's widget is left empty";
     delete (loss == 1 ? window->getBaseWidget() : nullptr);
     delete host;
     EXPECT_EQ(window->getBaseWidget(), nullptr) << loss;
@@ -374,6 +384,12 @@ TEST(WindowLayout, widgetsDeletedUnderTheDialogAreForgottenAndBuiltAgain)
     auto* tabs = window->getBaseWidget()->findChild<QTabWidget*>("FWTSoDialogQTabDialogTabWidget");
     ASSERT_TRUE(lines && tabs) << loss;
     EXPECT_EQ(std::make_tuple(lines->toPlainText(), tabs->count(), tabs->currentIndex()), std::make_tuple("typed", 3, 1));
+    for (QAction* entry : menuBarOf(window)->actions()[0]->menu()->actions())
+      entry->trigger();
+    const std::vector<std::string> heard{"push:open:", "menuCheck:wrap:TRUE", "radio:pick:0", "radio:pick:1",
+                                        "radio:pick:2"};
+    EXPECT_EQ(log.entries, heard) << loss;
+    window->removeAuditor(&log);
     window->destroyWidget();
   }
 }
