@@ -88,6 +88,9 @@ protected:
   virtual void setChildrenComponentSize();
   virtual void setChildrenLabelSize();
   void updateChildrenSizeDB();
+  // Scrolling is Qt's own business in the window form: nothing to do.
+  void setScrollProperties() {}
+  void updateGroupWidgetScrollPosition() {}
   // Builds each child inside the group's frame.
   void updateChildren();
 

@@ -110,6 +110,10 @@ public:
   void getDefaultState(SbVec2i32& size, SbVec2i32& min, SbVec2i32& max);
   // A window has no frame allowance.
   void fixSizeWithBorder(SbVec2i32&, int) {}
+  // Scrolling is Qt's own business in the window form: nothing to do.
+  void setScrollProperties() {}
+  void updateTopLevelWidgetScrollPosition() {}
+  void updateTopLevelWidget(SbVec2i32&) {}
   // Spreads a height change over the children, one pixel at a time.
   void computeNewChildrenHeight(SbVec2i32& newSize);
 
@@ -201,6 +205,8 @@ private:
 
   void buildWindow(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode);
   void createBaseWidget(QWidget* parent);
+  // The limits a person may resize the window to.
+  void setWindowLimits(const SbVec2i32& min, const SbVec2i32& max);
   void changePosition();
   void changeRowSpacing();
   void changeMinMaxSize();

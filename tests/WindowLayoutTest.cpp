@@ -192,6 +192,15 @@ TEST(WindowLayout, addingAChildResizesTheWindowOnlyIfItIsResizedByChildren)
   window->addChild(makeSizedLeaf(100, 20));
   EXPECT_EQ(sizeOf(window), SbVec2i32(200, 30 + 50 + 28));
 
+  // A window held at its size while a person may not resize it is let go
+  // when it may again.
+  window->resizable = FALSE;
+  window->buildDialog(nullptr, 0);
+  EXPECT_EQ(window->getBaseWidget()->maximumSize(), QSize(200, 30 + 50 + 28));
+  window->resizable = TRUE;
+  window->addChild(makeSizedLeaf(100, 20));
+  EXPECT_GT(window->getBaseWidget()->maximumHeight(), window->height.getValue());
+
   // A child added deep down climbs to the window; each group frame adds 6.
   auto* deep = makeNode<SoTopLevelDialog>();
   deep->windowResizedByChildren = TRUE;

@@ -186,10 +186,16 @@ void SoTopLevelDialog::buildWindow(QWidget* parent, SbVec2i32& useSize, SbVec2i3
     // that lost a child cannot shrink to its new size.
     dialogLayout->activate();
     baseWidget->resize(qtSize);
-    // A window the person may not resize is held at its size; an embedding
+    // A window the person may not resize is held at its size, and gets its
+    // negotiated limits once it may be resized again; an embedding
     // parent belongs to the application and keeps its own limits.
-    if (!resizable.getValue() && !buildInsideParent)
-      baseWidget->setFixedSize(qtSize);
+    if (!buildInsideParent) {
+      if (!resizable.getValue())
+        baseWidget->setFixedSize(qtSize);
+      else if (baseWidget->minimumSize() == baseWidget->maximumSize())
+        setWindowLimits(SbVec2i32(minWidth.getValue(), minHeight.getValue()),
+                        SbVec2i32(maxWidth.getValue(), maxHeight.getValue()));
+    }
     changePosition();
   } else {
     if (!isBuilt3D())
@@ -253,9 +259,14 @@ void SoTopLevelDialog::createBaseWidget(QWidget* parent)
   dialogLayout->setSpacing(0);
   changeLabel();
   changePosition();
-  baseWidget->setMinimumSize(SoSizeRules::toQtSize(minWidth.getValue()), SoSizeRules::toQtSize(minHeight.getValue()));
-  baseWidget->setMaximumSize(qtMaximum(maxWidth.getValue()), qtMaximum(maxHeight.getValue()));
+  setWindowLimits(SbVec2i32(minWidth.getValue(), minHeight.getValue()), SbVec2i32(maxWidth.getValue(), maxHeight.getValue()));
   updateChildren();
+}
+
+void SoTopLevelDialog::setWindowLimits(const SbVec2i32& min, const SbVec2i32& max)
+{
+  baseWidget->setMinimumSize(SoSizeRules::toQtSize(min[0]), SoSizeRules::toQtSize(min[1]));
+  baseWidget->setMaximumSize(qtMaximum(max[0]), qtMaximum(max[1]));
 }
 
 void SoTopLevelDialog::changePosition()
