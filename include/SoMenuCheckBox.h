@@ -46,6 +46,9 @@ protected:
   void changeEnable() override;
   void change3DState();
   void change3DOnString();
+  // The entry was chosen in the scene: its state turns, its auditors hear of
+  // it and its menu closes.
+  virtual void draggerFinishCallback3D();
   SbString shown3DLabel() const override;
 
   SoSFNode chkSep;

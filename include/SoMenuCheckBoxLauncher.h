@@ -47,6 +47,8 @@ protected:
 
   SbBool readInstance(SoInput* in, unsigned short flags) override;
   virtual int readChildren(SoInput* in);
+  // Chosen in the scene, the entry shows or hides its dialogs as in a menu.
+  void draggerFinishCallback3D() override;
 
   int32_t numChildren = 0;
 

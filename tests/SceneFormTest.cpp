@@ -275,6 +275,10 @@ TEST_F(SceneWindow, aWindowBuiltByItsFirstMeasureFollowsChangesOfItsTree)
   EXPECT_FLOAT_EQ(centreOf(leaf)[1], -23.0f - 30 - 15);
 }
 
+struct ChosenInScene : SoMenuCheckBoxLauncher {
+  using SoMenuCheckBoxLauncher::draggerFinishCallback3D;
+};
+
 // Launchers standing in the scene open plates at the dialogs' own places.
 TEST(SceneLaunchers, buildTheirDialogsInTheSceneAndShowThemThere)
 {
@@ -288,7 +292,7 @@ TEST(SceneLaunchers, buildTheirDialogsInTheSceneAndShowThemThere)
   const auto shown = [&](int i) { return scene.pickedNode(302.0f, -40.0f - 100 * i) == dialogs[i]; };
   auto* button = new SoDialogPushButtonLauncher;
   auto* box = new SoDialogCheckBoxLauncher;
-  auto* entry = new SoMenuCheckBoxLauncher;
+  auto* entry = new ChosenInScene;
   button->addChild(dialogs[0]), box->addChild(dialogs[1]), entry->addChild(dialogs[2]);
   box->state = TRUE;
   SoFormMode::setSceneForm(true);
@@ -302,12 +306,13 @@ TEST(SceneLaunchers, buildTheirDialogsInTheSceneAndShowThemThere)
   }
   EXPECT_TRUE(dialogs[0]->isBuilt3D());
   EXPECT_EQ(std::vector<bool>({shown(0), shown(1), shown(2)}), std::vector<bool>({false, true, false}));
-  // Released on the button's block and on the box's frame, at their right ends.
+  // Released on the button's block and on the box's frame, at their right
+  // ends; the entry chosen in the scene as a release on it does.
   scene.click(button->width.getValue() - 5.0f, -button->height.getValue() / 2.0f);
   scene.click(box->width.getValue() - 5.0f, -60 - box->height.getValue() / 2.0f);
-  entry->menuEvent(nullptr, 0);
+  entry->draggerFinishCallback3D();
   EXPECT_EQ(std::vector<bool>({shown(0), shown(1), shown(2)}), std::vector<bool>({true, false, true}));
-  entry->menuEvent(nullptr, 0);
+  entry->draggerFinishCallback3D();
   EXPECT_FALSE(shown(2));
   SoFormMode::setSceneForm(false);
 }

@@ -36,11 +36,7 @@ void SoDialogCheckBoxLauncher::draggerFinishCallback3D()
 
 void SoDialogCheckBoxLauncher::showDialogsAsChecked()
 {
-  for (int i = 0; i < numChildren; ++i) {
-    SoTopLevelDialog* dialog = childList().at(i);
-    SoLauncherDialogs::build(dialog, this);
-    SoLauncherDialogs::show(dialog, state.getValue() != 0);
-  }
+  SoLauncherDialogs::showAll(*this, state.getValue() != 0);
 }
 
 void SoDialogCheckBoxLauncher::applyAuditors()

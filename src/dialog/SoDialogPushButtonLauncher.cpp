@@ -44,11 +44,7 @@ void SoDialogPushButtonLauncher::draggerFinishCallback3D()
 
 void SoDialogPushButtonLauncher::showDialogs()
 {
-  for (int i = 0; i < numChildren; ++i) {
-    SoTopLevelDialog* dialog = childList().at(i);
-    SoLauncherDialogs::build(dialog, this);
-    SoLauncherDialogs::show(dialog, true);
-  }
+  SoLauncherDialogs::showAll(*this, true);
 }
 
 void SoDialogPushButtonLauncher::applyAuditors()

@@ -39,6 +39,17 @@ inline void show(SoTopLevelDialog* dialog, bool shown)
     dialog->show3D(shown);
 }
 
+// Builds each dialog of `launcher` at need and shows or hides it.
+template <class Launcher>
+void showAll(Launcher& launcher, bool shown)
+{
+  for (int i = 0; i < launcher.getNumChildren(); ++i) {
+    auto* dialog = static_cast<SoTopLevelDialog*>(launcher.getChild(i));
+    build(dialog, &launcher);
+    show(dialog, shown);
+  }
+}
+
 }
 
 // The child, file and search operations of launcher class `K`. A removal or

@@ -219,14 +219,18 @@ void SoMenuCheckBox::finishCB3D(void*, SoDragger* dragger)
 {
   auto* box = static_cast<SoMenuCheckBox*>(dragger);
   const SoPath* path = box->getPressPath();
-  if (!path || !path->containsNode(box))
-    return;
-  setFieldUnwatched(box->state, box->stateSensor, !box->state.getValue());
-  box->applyDlgCptAuditor();
-  if (SoMenuBar* bar = box->getMenuBar())
+  if (path && path->containsNode(box))
+    box->draggerFinishCallback3D();
+}
+
+void SoMenuCheckBox::draggerFinishCallback3D()
+{
+  setFieldUnwatched(state, stateSensor, !state.getValue());
+  applyDlgCptAuditor();
+  if (SoMenuBar* bar = getMenuBar())
     bar->show3DChildren(0);
-  if (box->buildMode)
-    box->changeState();
-  if (box->follows3DForm())
-    box->change3DState();
+  if (buildMode)
+    changeState();
+  if (follows3DForm())
+    change3DState();
 }

@@ -22,9 +22,11 @@ SoMenuCheckBoxLauncher::~SoMenuCheckBoxLauncher()
 void SoMenuCheckBoxLauncher::menuEvent(void* data, int id)
 {
   SoMenuCheckBox::menuEvent(data, id);
-  for (int i = 0; i < numChildren; ++i) {
-    SoTopLevelDialog* dialog = childList().at(i);
-    SoLauncherDialogs::build(dialog, this);
-    SoLauncherDialogs::show(dialog, state.getValue() != 0);
-  }
+  SoLauncherDialogs::showAll(*this, state.getValue() != 0);
+}
+
+void SoMenuCheckBoxLauncher::draggerFinishCallback3D()
+{
+  SoMenuCheckBox::draggerFinishCallback3D();
+  SoLauncherDialogs::showAll(*this, state.getValue() != 0);
 }

@@ -29,9 +29,11 @@ void SoMenuPushButtonLauncher::buildMenu(void* holder, int is2D, int position)
 void SoMenuPushButtonLauncher::menuEvent(void* data, int id)
 {
   SoMenuPushButton::menuEvent(data, id);
-  for (int i = 0; i < numChildren; ++i) {
-    SoTopLevelDialog* dialog = childList().at(i);
-    SoLauncherDialogs::build(dialog, this);
-    SoLauncherDialogs::show(dialog, true);
-  }
+  SoLauncherDialogs::showAll(*this, true);
+}
+
+void SoMenuPushButtonLauncher::draggerFinishCallback3D()
+{
+  SoMenuPushButton::draggerFinishCallback3D();
+  SoLauncherDialogs::showAll(*this, true);
 }
