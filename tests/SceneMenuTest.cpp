@@ -152,6 +152,17 @@ TEST_F(SceneMenu, entriesFireAtReleaseAndCloseTheMenu)
   EXPECT_EQ(heard.events.back(), "push");
 }
 
+// A cascade moved onto the bar after the scene build stands there as a
+// title that opens its popup.
+TEST_F(SceneMenu, aCascadeMovedOntoTheBarOpensFromThere)
+{
+  file->removeChild(cascade);
+  bar->addChild(cascade);
+  const float x = 4.0f + file->getItemSize()[0] + 1 + edit->getItemSize()[0] + 1 + cascade->getItemSize()[0] / 2.0f;
+  scene.click(x, -31.0f);
+  EXPECT_TRUE(cascade->isOpen3D());
+}
+
 TEST_F(SceneMenu, aCascadeOpensRightOfItsItemAtItsTop)
 {
   clickTitle(file);

@@ -110,18 +110,27 @@ void SoMenuPopup::update3DPopup()
   const float w = static_cast<float>(itemSize[0]);
   const float h = static_cast<float>(itemSize[1]);
   const float textMiddle = -(max[1] + min[1]) / 2;
+  // A popup moved between a bar and a menu after its build keeps the parts
+  // it was made with, and makes those it lacks.
   if (isCascade()) {
+    buttonScale->scaleFactor.setValue(14.0f, 14.0f, 1.0f);
     buttonTranslation->translation.setValue(w / 2 - 10, 0.0f, 0.0f);
     labelTranslation->translation.setValue(-(max[0] - min[0]) / 2 - 10, textMiddle, 0.0f);
     return;
+  }
+  if (!buttonTransform) {
+    buttonTransform = new SoTransform;
+    get3DPart("geomSwitch")->addChild(buttonTransform);
   }
   if (parentNode && parentNode->canBeTraversed()) {
     buttonScale->scaleFactor.setValue(w, h, 1.0f);
     buttonTranslation->translation.setValue(w / 2, 10.0f, 0.0f);
   } else {
-    frameScale->scaleFactor.setValue(w, h, 1.0f);
-    frameTranslation->translation.setValue(w / 2, h / 2, 0.0f);
-    undoTransformMatrix(itemFrameSep.getValue(), frameTransform);
+    if (frameScale) {
+      frameScale->scaleFactor.setValue(w, h, 1.0f);
+      frameTranslation->translation.setValue(w / 2, h / 2, 0.0f);
+      undoTransformMatrix(itemFrameSep.getValue(), frameTransform);
+    }
     buttonScale->scaleFactor.setValue(w - 2, h - 2, 1.0f);
     buttonTranslation->translation.setValue(0.0f, 0.0f, 0.0f);
   }
