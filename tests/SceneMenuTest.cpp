@@ -198,6 +198,10 @@ TEST_F(SceneMenu, thePlateHoldsItsChildrenWithABarAndAnEmptyBarHides)
   bare->buildDialog(nullptr, 0);
   buildInScene(bare);
   EXPECT_TRUE(boxOf(empty).isEmpty()) << "a bar with no popups is hidden in the scene";
+  // Nor does it come back when the plate is minimized and restored.
+  bare->minimized = TRUE;
+  bare->minimized = FALSE;
+  EXPECT_TRUE(boxOf(empty).isEmpty());
 }
 
 // The tab dialog in the scene: its tabs, scroll buttons and pages.

@@ -96,7 +96,6 @@ void SoMenuBar::update3DBar()
       w = window->width.getValue();
     }
   }
-  // An empty bar says nothing in the scene when the window shows its own.
   if (numChildren == 0 && buildMode)
     show3D(0);
   else
@@ -156,6 +155,10 @@ void SoMenuBar::update3DChildrenSize()
 
 void SoMenuBar::show3D(int show)
 {
+  // An empty bar says nothing in the scene when the window shows its own,
+  // whatever shows the plate again.
+  if (numChildren == 0 && buildMode)
+    show = 0;
   // A hidden bar leaves no menu open in the air.
   if (!show)
     show3DChildren(0);
