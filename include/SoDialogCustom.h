@@ -17,6 +17,8 @@ public:
   // 3D form.
   void buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& size, int mode) override;
   void destroyWidget() override;
+  // The application adds its widget to getLayout() itself: nothing to do.
+  void addChildWidget() {}
 
 protected:
   ~SoDialogCustom() override;
