@@ -69,34 +69,47 @@ TEST(FuzzFound, aTabDialogRefusesToHoldItself)
 }
 
 // An auditor that removes the control it hears of, or the window's widgets,
-// while Qt still handles the key that changed the control: the widgets go
-// once the event is over, and the window builds again.
+// while Qt still handles the key that changed the control (a combo box's
+// arrow, a slider's value typed and entered): the widgets go once the event
+// is over, and the window builds again.
 class Remover : public SoDialogAuditor {
 public:
   std::function<void()> act;
   void dialogComboBox(SoDialogComboBox*) override { act(); }
   void dialogEditText(SoDialogEditText*) override { act(); }
+  void dialogIntegerSlider(SoDialogIntegerSlider*) override { act(); }
 };
 
 TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
 {
-  for (const bool wholeWindow : {false, true}) {
-    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DialogComboBox { items [\"x\", \"y\"] } }\n");
-    auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
-    Remover remover;
-    remover.act = [&] { wholeWindow ? window->destroyWidget() : window->removeAllChildren(); };
-    window->addAuditor(&remover);
-    window->buildDialog(nullptr, 0);
-    QPointer<QComboBox> combo = window->getBaseWidget()->findChild<QComboBox*>();
-    ASSERT_NE(combo, nullptr);
-    QTest::keyClick(combo, Qt::Key_Down);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(combo.isNull()) << wholeWindow;
-    window->removeAuditor(&remover);
-    window->buildDialog(nullptr, 0);
-    EXPECT_NE(window->getBaseWidget(), nullptr);
-    window->destroyWidget();
-  }
+  const struct {
+    const char* control;
+    std::function<QWidget*(QWidget*)> find;
+    std::function<void(QWidget*)> type;
+  } cases[] = {
+    {"DialogComboBox { items [\"x\", \"y\"] }", [](QWidget* w) { return w->findChild<QComboBox*>(); },
+     [](QWidget* combo) { QTest::keyClick(combo, Qt::Key_Down); }},
+    {"DialogIntegerSlider { min 0 max 10 }", [](QWidget* w) { return w->findChild<QLineEdit*>(); },
+     [](QWidget* zone) { QTest::keyClicks(zone, "7"), QTest::keyClick(zone, Qt::Key_Return); }},
+  };
+  for (const auto& kind : cases)
+    for (const bool wholeWindow : {false, true}) {
+      readScene(std::string("#Inventor V2.1 ascii\nDEF W TopLevelDialog { ") + kind.control + " }\n");
+      auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+      Remover remover;
+      remover.act = [&] { wholeWindow ? window->destroyWidget() : window->removeAllChildren(); };
+      window->addAuditor(&remover);
+      window->buildDialog(nullptr, 0);
+      QPointer<QWidget> widget = kind.find(window->getBaseWidget());
+      ASSERT_NE(widget, nullptr) << kind.control;
+      kind.type(widget);
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      EXPECT_TRUE(widget.isNull()) << kind.control << wholeWindow;
+      window->removeAuditor(&remover);
+      window->buildDialog(nullptr, 0);
+      EXPECT_NE(window->getBaseWidget(), nullptr);
+      window->destroyWidget();
+    }
 }
 
 // The entry hands the text it is built with back to the field, and its

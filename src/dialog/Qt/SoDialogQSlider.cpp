@@ -121,6 +121,7 @@ void SoDialogQSlider::eventNotify(int)
 
 void SoDialogQSlider::eventNotifyPressed()
 {
+  const SoWidgetEvent event;
   m_node->changeSliderFromEdit();
 }
 
