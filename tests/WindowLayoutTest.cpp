@@ -220,6 +220,24 @@ TEST(WindowLayout, addingAChildResizesTheWindowOnlyIfItIsResizedByChildren)
   EXPECT_EQ(added->labelSize[0], textPixels("Second")[0]) << "the row's labels were aligned again";
 }
 
+// A slider whose label grew shorter lets its window shrink at the next
+// build: its frame, which may shrink no further than the slider's size,
+// takes the size of the new negotiation.
+TEST(WindowLayout, aRebuiltSlidersFrameTakesItsNewSize)
+{
+  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { windowResizedByChildren TRUE"
+            " DEF S DialogIntegerSlider { label \"A label a good deal longer than the other\" } }\n");
+  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+  auto* slider = static_cast<SoDialogComponent*>(SoNode::getByName("S"));
+  window->buildDialog(nullptr, 0);
+  const int before = slider->width.getValue();
+  slider->label = "A";
+  window->addChild(makeNode<SoDialogLabel>());
+  ASSERT_LT(slider->width.getValue(), before);
+  EXPECT_EQ(slider->getWidget()->minimumWidth(), slider->width.getValue());
+  window->destroyWidget();
+}
+
 TEST(WindowLayout, dictatedSizeIsHeldWithinTheWindowsLimits)
 {
   auto* window = makeNode<SoTopLevelDialog>();

@@ -4,7 +4,7 @@
 // alignment that the widgets take, the places of a control's pieces in its
 // frame, and the end of a frame widget.
 
-#include <SoFormwright.h>
+#include <SoDialogComponent.h>
 
 #include "SoWidgetEvent.h"
 
@@ -77,6 +77,18 @@ void deleteFrameWidget(QPointer<Frame>& frame, QPointer<QWidget>& componentWidge
     componentWidget = nullptr;
   SoWidgetEvent::deleteWidget(frame.data());
   frame = nullptr;
+}
+
+// A control's frame may shrink to `least` and no further, and is held at its
+// size along a fixed axis. Set at every build, as the negotiation may have
+// changed both since the frame was made.
+inline void limitFrame(QWidget* frame, const SbVec2i32& least, const SoDialogComponent& node)
+{
+  frame->setMinimumSize(least[0], least[1]);
+  if (node.fixedWidth.getValue())
+    frame->setMaximumWidth(node.width.getValue());
+  if (node.fixedHeight.getValue())
+    frame->setMaximumHeight(node.height.getValue());
 }
 
 }

@@ -73,6 +73,7 @@ void SoDialogCheckBox::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
     // pieces again.
     if (!existWidget(checkBoxWidget))
       createLabelWidget();
+    SoControlWidgets::limitFrame(checkBoxWidget, SbVec2i32(minWidth.getValue(), minHeight.getValue()), *this);
     updateLabelWidget();
     updateCheckBoxWidget();
   } else {
@@ -98,11 +99,6 @@ void SoDialogCheckBox::createLabelWidget()
   changeEnable();
   changeLabelVisibility();
   SoDialogComponent::changeEdgeStyle();
-  checkBoxWidget->setMinimumSize(minWidth.getValue(), minHeight.getValue());
-  if (fixedWidth.getValue())
-    checkBoxWidget->setMaximumWidth(width.getValue());
-  if (fixedHeight.getValue())
-    checkBoxWidget->setMaximumHeight(height.getValue());
   componentLayout->addWidget(checkBoxWidget, 0, Qt::Alignment());
   componentLayout->addItem(layoutSpacer);
 }

@@ -58,6 +58,7 @@ void SoDialogComboBox::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
   if (mode != 0) {
     if (!existWidget(comboBoxWidget))
       createLabelWidget();
+    SoControlWidgets::limitFrame(comboBoxWidget, SbVec2i32(minWidth.getValue(), minHeight.getValue()), *this);
     updateLabelWidget();
     updateComboBoxWidget();
   } else {
@@ -80,11 +81,6 @@ void SoDialogComboBox::createLabelWidget()
   changeEnable();
   changeLabelVisibility();
   changeEdgeStyle();
-  comboBoxWidget->setMinimumSize(minWidth.getValue(), minHeight.getValue());
-  if (fixedWidth.getValue())
-    comboBoxWidget->setMaximumWidth(width.getValue());
-  if (fixedHeight.getValue())
-    comboBoxWidget->setMaximumHeight(height.getValue());
   componentLayout->addWidget(comboBoxWidget, 0, Qt::Alignment());
   componentLayout->addItem(layoutSpacer);
 }

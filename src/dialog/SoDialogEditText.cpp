@@ -111,6 +111,9 @@ void SoDialogEditText::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i3
   if (mode != 0) {
     if (!existWidget(editTextWidget))
       createLabelWidget();
+    // At every build: the negotiation may have changed the least size.
+    if (editTextWidget)
+      editTextWidget->setMinimumSize(minWidth.getValue(), minHeight.getValue());
     updateLabelWidget();
     updateEditTextWidget();
   } else {

@@ -44,6 +44,8 @@ void SoDialogLabel::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32& 
   if (mode != 0) {
     if (!existWidget(labelWidget))
       createLabelWidget();
+    // At every build: the negotiation may have changed the least size.
+    labelWidget->setMinimumSize(minWidth.getValue(), minHeight.getValue());
     updateLabelWidget();
   } else {
     if (!isBuilt3D())
@@ -61,7 +63,6 @@ void SoDialogLabel::createLabelWidget()
   ownsLabelWidget = 0;
   changeLabelAlignment();
   changeLabel();
-  frame->setMinimumSize(minWidth.getValue(), minHeight.getValue());
   componentLayout->addWidget(frame, 0, Qt::Alignment());
   componentLayout->addItem(layoutSpacer);
 }

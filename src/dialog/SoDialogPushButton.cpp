@@ -66,6 +66,11 @@ void SoDialogPushButton::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2
     // its pieces again.
     if (!existWidget(buttonWidget))
       createLabelWidget();
+    // At every build: the negotiation may have changed the limits.
+    buttonWidget->setSizePolicy(fixedWidth.getValue() ? QSizePolicy::Fixed : QSizePolicy::Preferred,
+                                fixedHeight.getValue() ? QSizePolicy::Fixed : QSizePolicy::Preferred);
+    buttonWidget->setMinimumSize(minWidth.getValue(), minHeight.getValue());
+    buttonWidget->setMaximumSize(maxWidth.getValue(), maxHeight.getValue());
     updateLabelWidget();
     updateButtonWidget();
   } else {
@@ -87,10 +92,6 @@ void SoDialogPushButton::createLabelWidget()
   changeEnable();
   changeLabelVisibility();
   SoDialogComponent::changeEdgeStyle();
-  buttonWidget->setSizePolicy(fixedWidth.getValue() ? QSizePolicy::Fixed : QSizePolicy::Preferred,
-                              fixedHeight.getValue() ? QSizePolicy::Fixed : QSizePolicy::Preferred);
-  buttonWidget->setMinimumSize(minWidth.getValue(), minHeight.getValue());
-  buttonWidget->setMaximumSize(maxWidth.getValue(), maxHeight.getValue());
   componentLayout->addWidget(buttonWidget, 0, Qt::Alignment());
   componentLayout->addItem(layoutSpacer);
 }

@@ -38,6 +38,7 @@ void SoDialogSeparator::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i
   if (mode != 0) {
     if (!existWidget(separatorWidget))
       createSeparatorWidget();
+    SoControlWidgets::limitFrame(separatorWidget, SbVec2i32(width.getValue(), height.getValue()), *this);
     updateSeparatorWidget();
   } else {
     if (!isBuilt3D())
@@ -51,11 +52,6 @@ void SoDialogSeparator::createSeparatorWidget()
   separatorWidget = new SoDialogQSeparator(componentWidget, this);
   componentWidget = separatorWidget;
   changeEdgeStyle();
-  separatorWidget->setMinimumSize(width.getValue(), height.getValue());
-  if (fixedWidth.getValue())
-    separatorWidget->setMaximumWidth(width.getValue());
-  if (fixedHeight.getValue())
-    separatorWidget->setMaximumHeight(height.getValue());
   componentLayout->addWidget(separatorWidget, 0, Qt::Alignment());
   componentLayout->addItem(layoutSpacer);
 }

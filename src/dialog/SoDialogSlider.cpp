@@ -85,6 +85,7 @@ void SoDialogSlider::buildWidget(QWidget* parent, SbVec2i32& useSize, SbVec2i32&
     // The frame makes the toggle, the bar and the value zone with it.
     if (!existWidget(sliderWidget))
       createLabelWidget();
+    SoControlWidgets::limitFrame(sliderWidget, SbVec2i32(width.getValue(), height.getValue()), *this);
     updateLabelWidget();
     updateToggleWidget();
     updateSliderWidget();
@@ -131,11 +132,6 @@ void SoDialogSlider::createLabelWidget()
   changeEditValue();
   changeEdgeStyle();
   changeValueVisible();
-  sliderWidget->setMinimumSize(width.getValue(), height.getValue());
-  if (fixedWidth.getValue())
-    sliderWidget->setMaximumWidth(width.getValue());
-  if (fixedHeight.getValue())
-    sliderWidget->setMaximumHeight(height.getValue());
   componentLayout->addWidget(sliderWidget, 0, Qt::Alignment());
   componentLayout->addItem(layoutSpacer);
 }
