@@ -16,6 +16,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTest>
 #include <QWidget>
@@ -24,20 +25,28 @@
 
 // The window deleted by the application takes the controls' widgets with
 // it; the controls keep their values unbuilt and in a later scene build,
-// which passes nothing on to the widgets that went.
+// which passes nothing on to the widgets that went, nor does the end of the
+// widgets the application asks for after.
 TEST(FuzzFound, controlsOutliveTheWindowQtDeleted)
 {
-  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { RowDialog { DEF S DialogIntegerSlider { min 0 max 10 value 5 }"
-            " DEF R DialogRadioButtons { items [\"a\", \"b\"] selectedItem 1 } } }\n");
-  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
-  auto* slider = static_cast<SoDialogIntegerSlider*>(SoNode::getByName("S"));
-  auto* radio = static_cast<SoDialogRadioButtons*>(SoNode::getByName("R"));
-  window->buildDialog(nullptr, 0);
-  delete window->getBaseWidget();
-  buildInScene(window);
-  slider->value = 10;
-  EXPECT_FLOAT_EQ(slider->getValue(), 1.0f);
-  EXPECT_EQ(radio->selectedItem.getValue(), 1);
+  for (const bool endedByTheApplication : {false, true}) {
+    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { RowDialog { DEF S DialogIntegerSlider { min 0 max 10 value 5 }"
+              " DEF R DialogRadioButtons { items [\"a\", \"b\"] selectedItem 1 } } }\n");
+    auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    auto* slider = static_cast<SoDialogIntegerSlider*>(SoNode::getByName("S"));
+    auto* radio = static_cast<SoDialogRadioButtons*>(SoNode::getByName("R"));
+    window->buildDialog(nullptr, 0);
+    delete window->getBaseWidget();
+    if (endedByTheApplication)
+      window->destroyWidget();
+    buildInScene(window);
+    slider->value = 10;
+    EXPECT_FLOAT_EQ(slider->getValue(), 1.0f);
+    EXPECT_EQ(radio->selectedItem.getValue(), 1);
+    window->buildDialog(nullptr, 0);
+    EXPECT_EQ(window->getBaseWidget()->findChildren<QRadioButton*>().size(), 2);
+    window->destroyWidget();
+  }
 }
 
 // A tab dialog given itself or the row that holds it as a page refuses it,

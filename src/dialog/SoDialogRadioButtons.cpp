@@ -119,14 +119,16 @@ void SoDialogRadioButtons::changeItemText(int index, SbString text)
 
 void SoDialogRadioButtons::destroyWidget()
 {
+  // Buttons that Qt deleted with their window are only forgotten.
+  forgetLostWidgets();
   if (buildMode) {
     const int count = std::min(getRealItemCount(), buttonWidgets.getLength());
     for (int i = 0; i < count; ++i) {
       SoWidgetEvent::deleteWidget(buttonWidgets[i]);
       buttonWidgets[i] = nullptr;
     }
-    buttonWidgets.truncate(0);
   }
+  buttonWidgets.truncate(0);
   SoDialogChoice::destroyWidget();
 }
 
