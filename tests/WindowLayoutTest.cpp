@@ -3,6 +3,7 @@
 
 #include <SoColumnDialog.h>
 #include <SoDialogGroup.h>
+#include <SoDialogIntegerSlider.h>
 #include <SoDialogLabel.h>
 #include <SoFormMode.h>
 #include <SoMenuBar.h>
@@ -201,6 +202,17 @@ TEST(WindowLayout, addingAChildResizesTheWindowOnlyIfItIsResizedByChildren)
   window->addChild(makeSizedLeaf(100, 20));
   EXPECT_GT(window->getBaseWidget()->maximumHeight(), window->height.getValue());
 
+  // A slider whose label grew shorter: its frame, which may shrink no
+  // further than the slider's size, takes the size of the next build.
+  auto* slider = makeNode<SoDialogIntegerSlider>();
+  slider->label = "A label a good deal longer than the others";
+  window->addChild(slider);
+  const int before = slider->width.getValue();
+  slider->label = "A";
+  window->addChild(makeSizedLeaf(100, 20));
+  ASSERT_LT(slider->width.getValue(), before);
+  EXPECT_EQ(slider->getWidget()->minimumWidth(), slider->width.getValue());
+
   // A child added deep down climbs to the window; each group frame adds 6.
   auto* deep = makeNode<SoTopLevelDialog>();
   deep->windowResizedByChildren = TRUE;
@@ -218,24 +230,6 @@ TEST(WindowLayout, addingAChildResizesTheWindowOnlyIfItIsResizedByChildren)
   EXPECT_NE(added->buildMode, 0) << "the new child got its widget";
   EXPECT_EQ(deep->height.getValue(), 40 + 30 + 6 + 6);
   EXPECT_EQ(added->labelSize[0], textPixels("Second")[0]) << "the row's labels were aligned again";
-}
-
-// A slider whose label grew shorter lets its window shrink at the next
-// build: its frame, which may shrink no further than the slider's size,
-// takes the size of the new negotiation.
-TEST(WindowLayout, aRebuiltSlidersFrameTakesItsNewSize)
-{
-  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { windowResizedByChildren TRUE"
-            " DEF S DialogIntegerSlider { label \"A label a good deal longer than the other\" } }\n");
-  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
-  auto* slider = static_cast<SoDialogComponent*>(SoNode::getByName("S"));
-  window->buildDialog(nullptr, 0);
-  const int before = slider->width.getValue();
-  slider->label = "A";
-  window->addChild(makeNode<SoDialogLabel>());
-  ASSERT_LT(slider->width.getValue(), before);
-  EXPECT_EQ(slider->getWidget()->minimumWidth(), slider->width.getValue());
-  window->destroyWidget();
 }
 
 TEST(WindowLayout, dictatedSizeIsHeldWithinTheWindowsLimits)
