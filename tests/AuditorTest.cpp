@@ -147,9 +147,8 @@ class AuditorRouting : public ::testing::Test {
 protected:
   void SetUp() override
   {
-    m_root = readScene(kDialog);
-    ASSERT_NE(m_root, nullptr);
-    dialog = static_cast<SoTopLevelDialog*>(m_root->getChild(0));
+    dialog = readWindow(kDialog);
+    ASSERT_NE(dialog, nullptr);
     outer = static_cast<SoColumnDialog*>(dialog->searchForAuditorId("outer"));
     inner = static_cast<SoRowDialog*>(dialog->searchForAuditorId("inner"));
     apply = static_cast<SoDialogPushButton*>(dialog->searchForAuditorId("apply"));
@@ -159,7 +158,6 @@ protected:
   void build() { dialog->buildDialog(nullptr, 0); }
   void pressApply() { QTest::mousePress(apply->getWidget()->findChild<QPushButton*>(), Qt::LeftButton); }
 
-  SoSeparator* m_root = nullptr;
   SoTopLevelDialog* dialog = nullptr;
   SoColumnDialog* outer = nullptr;
   SoRowDialog* inner = nullptr;

@@ -84,9 +84,8 @@ protected:
   void SetUp() override
   {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    SoSeparator* root = readScene(kWindow);
-    ASSERT_NE(root, nullptr);
-    window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    window = readWindow(kWindow);
+    ASSERT_NE(window, nullptr);
     row = static_cast<SoRowDialog*>(window->searchForAuditorId("row"));
     panels = static_cast<SoDialogCheckBoxLauncher*>(window->searchForAuditorId("panels"));
     options = static_cast<SoDialogPushButtonLauncher*>(window->searchForAuditorId("options"));

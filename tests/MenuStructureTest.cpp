@@ -67,9 +67,8 @@ class MenuStructure : public ::testing::Test {
 protected:
   void SetUp() override
   {
-    SoSeparator* root = readScene(kWindow);
-    ASSERT_NE(root, nullptr);
-    window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    window = readWindow(kWindow);
+    ASSERT_NE(window, nullptr);
     bar = static_cast<SoMenuBar*>(window->getChild(0));
     file = static_cast<SoMenuPopup*>(bar->getChild(0));
     recent = static_cast<SoMenuPopup*>(file->getChild(0));
@@ -269,9 +268,8 @@ class MenuEntries : public ::testing::Test {
 protected:
   void SetUp() override
   {
-    SoSeparator* root = readScene(kEntriesWindow);
-    ASSERT_NE(root, nullptr);
-    window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    window = readWindow(kEntriesWindow);
+    ASSERT_NE(window, nullptr);
     copy = static_cast<SoMenuPushButton*>(window->searchForAuditorId("copy"));
     grid = static_cast<SoMenuCheckBox*>(window->searchForAuditorId("grid"));
     zoom = static_cast<SoMenuRadioButtons*>(window->searchForAuditorId("zoom"));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SoTopLevelDialog.h>
+
 #include <Inventor/SoDB.h>
 #include <Inventor/SoFullPath.h>
 #include <Inventor/SoInput.h>
@@ -116,6 +118,13 @@ inline SoSeparator* readScene(const std::string& text)
     heldForTheRun().push_back(root);
   }
   return root;
+}
+
+// Reads a file whose first node is a window; null if it does not read.
+inline SoTopLevelDialog* readWindow(const std::string& text)
+{
+  SoSeparator* root = readScene(text);
+  return root ? static_cast<SoTopLevelDialog*>(root->getChild(0)) : nullptr;
 }
 
 // Lets test failures show strings as text.
