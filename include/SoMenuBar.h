@@ -94,6 +94,8 @@ protected:
   SoSFNode frame;
 
 private:
+  // An empty bar says nothing in the scene when the window shows its own.
+  bool hiddenInScene() const { return numChildren == 0 && buildMode; }
   void createMenuBar(QWidget* parent);
   void create3DBar();
   void update3DBar();

@@ -96,7 +96,7 @@ void SoMenuBar::update3DBar()
       w = window->width.getValue();
     }
   }
-  if (numChildren == 0 && buildMode)
+  if (hiddenInScene())
     show3D(0);
   else
     barScale->scaleFactor.setValue(static_cast<float>(w - 6), 20.0f, 1.0f);
@@ -155,9 +155,8 @@ void SoMenuBar::update3DChildrenSize()
 
 void SoMenuBar::show3D(int show)
 {
-  // An empty bar says nothing in the scene when the window shows its own,
-  // whatever shows the plate again.
-  if (numChildren == 0 && buildMode)
+  // Whatever shows the plate again.
+  if (hiddenInScene())
     show = 0;
   // A hidden bar leaves no menu open in the air.
   if (!show)
