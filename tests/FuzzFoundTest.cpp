@@ -103,8 +103,7 @@ TEST(FuzzFound, anAuditorDeletesTheWidgetsOfTheEventItHears)
   };
   for (const auto& kind : cases)
     for (const bool wholeWindow : {false, true}) {
-      readScene(std::string("#Inventor V2.1 ascii\nDEF W TopLevelDialog { ") + kind.control + " }\n");
-      auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+      auto* window = readWindow(std::string("#Inventor V2.1 ascii\nTopLevelDialog { ") + kind.control + " }\n");
       Remover remover;
       remover.act = [&] { wholeWindow ? window->destroyWidget() : window->removeAllChildren(); };
       window->addAuditor(&remover);
@@ -131,8 +130,8 @@ TEST(FuzzFound, anAuditorRemovesOrMovesAnEntryOrItsWindowWhileItIsBuilt)
 {
   enum Act { RemoveEntry, DestroyWindow, MoveEntry };
   for (const Act act : {RemoveEntry, DestroyWindow, MoveEntry}) {
-    readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DEF E DialogEditText { editText \"a\" trigOnEnter FALSE } }\n");
-    auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+    auto* window =
+      readWindow("#Inventor V2.1 ascii\nTopLevelDialog { DEF E DialogEditText { editText \"a\" trigOnEnter FALSE } }\n");
     auto* entry = static_cast<SoTopComponent*>(SoNode::getByName("E"));
     const auto move = [&] {
       window->insertChild(entry, 0);
@@ -189,8 +188,7 @@ TEST(FuzzFound, aWindowPlacedAtTheEndsOfTheRangeStaysWithinQtsSizes)
 // meanwhile touches no frame that went.
 TEST(FuzzFound, aPageReplacedUnderASharedComponentLeavesItOnItsOtherPage)
 {
-  readScene("#Inventor V2.1 ascii\nDEF W TopLevelDialog { DEF T TabDialog { DialogLabel { } DEF B DialogLabel { } } }\n");
-  auto* window = static_cast<SoTopLevelDialog*>(SoNode::getByName("W"));
+  auto* window = readWindow("#Inventor V2.1 ascii\nTopLevelDialog { DEF T TabDialog { DialogLabel { } DEF B DialogLabel { } } }\n");
   auto* tabs = static_cast<SoTabDialog*>(SoNode::getByName("T"));
   auto* shared = static_cast<SoDialogLabel*>(SoNode::getByName("B"));
   window->buildDialog(nullptr, 0);

@@ -326,12 +326,11 @@ TEST_F(SceneTabs, theScrollButtonsShowDownAtThePressAndMoveTheStripByOneAtReleas
 // lays its children out in its own size.
 TEST(SceneTabPages, keepTheirChildrenInsideThem)
 {
-  SoSeparator* root = readScene("#Inventor V2.1 ascii\n"
-                                "TopLevelDialog { TabDialog {"
-                                "  RowDialog { label \"A\" DialogCheckBox { label \"x\" } }"
-                                "  RowDialog { label \"B\" margin 4 rowSpacing 4 DialogCheckBox { } DialogCheckBox { } } } }\n");
-  ASSERT_NE(root, nullptr);
-  auto* dialog = static_cast<SoTopLevelDialog*>(root->getChild(0));
+  auto* dialog = readWindow("#Inventor V2.1 ascii\n"
+                            "TopLevelDialog { TabDialog {"
+                            "  RowDialog { label \"A\" DialogCheckBox { label \"x\" } }"
+                            "  RowDialog { label \"B\" margin 4 rowSpacing 4 DialogCheckBox { } DialogCheckBox { } } } }\n");
+  ASSERT_NE(dialog, nullptr);
   buildInScene(dialog);
   auto* tabs = static_cast<SoTabDialog*>(dialog->getChild(0));
   for (int page = 0; page < 2; ++page) {

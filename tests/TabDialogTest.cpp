@@ -50,9 +50,8 @@ struct BuiltTabs {
 
 BuiltTabs buildTabs(const std::string& tabFields, const std::string& pages)
 {
-  SoSeparator* root = readScene("#Inventor V2.1 ascii\nTopLevelDialog { TabDialog { " + tabFields + "\n" + pages + "} }\n");
-  EXPECT_NE(root, nullptr);
-  auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+  auto* window = readWindow("#Inventor V2.1 ascii\nTopLevelDialog { TabDialog { " + tabFields + "\n" + pages + "} }\n");
+  EXPECT_NE(window, nullptr);
   window->buildDialog(nullptr, 0);
   window->show();
   QApplication::processEvents();
@@ -253,10 +252,9 @@ TEST(TabDialog, sizesAreTheLargestPageWithRoomForTheTabs)
 TEST(TabDialog, pageInsertedAfterTheBuildGetsTheWidthOfAFreshBuild)
 {
   auto build = [](const std::string& pages) {
-    SoSeparator* root = readScene("#Inventor V2.1 ascii\nTopLevelDialog { ColumnDialog { RowDialog { TabDialog { "
-                                  "auditorID \"tabs\" " +
-                                  pages + "} } } " + page("A label as wide as the window") + "}\n");
-    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    auto* window = readWindow("#Inventor V2.1 ascii\nTopLevelDialog { ColumnDialog { RowDialog { TabDialog { "
+                              "auditorID \"tabs\" " +
+                              pages + "} } } " + page("A label as wide as the window") + "}\n");
     window->buildDialog(nullptr, 0);
     window->show();
     QApplication::processEvents();

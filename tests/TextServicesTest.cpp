@@ -122,10 +122,9 @@ TEST(TextEncoding, labelShowsAndMeasuresTheWrittenCharacters)
   const QFontMetrics metrics(SoFormwright::getFormwrightFont());
   for (const auto& text : texts) {
     SCOPED_TRACE(text.shown.toStdString());
-    SoSeparator* root = readScene(std::string("#Inventor V2.1 ascii\nTopLevelDialog { label \"") + text.bytes +
-                                  "\" DialogLabel { label \"" + text.bytes + "\" } }\n");
-    ASSERT_NE(root, nullptr);
-    auto* window = static_cast<SoTopLevelDialog*>(root->getChild(0));
+    auto* window = readWindow(std::string("#Inventor V2.1 ascii\nTopLevelDialog { label \"") + text.bytes +
+                              "\" DialogLabel { label \"" + text.bytes + "\" } }\n");
+    ASSERT_NE(window, nullptr);
     window->buildDialog(nullptr, 0);
     EXPECT_EQ(SoFormwright::getLabelPixelSize(SbString(text.bytes), nullptr),
               SbVec2i32(metrics.horizontalAdvance(text.shown) + 3, metrics.height() + 3));
